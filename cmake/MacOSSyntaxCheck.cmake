@@ -21,7 +21,11 @@ set(QUENBY_OBJCXX_CHECK_FLAGS
     -isystem ${PROJECT_SOURCE_DIR}/sdk-surface
     -I ${PROJECT_SOURCE_DIR}/src)
 foreach(dir IN LISTS QUENBY_JSON_INCLUDES)
-  list(APPEND QUENBY_OBJCXX_CHECK_FLAGS -isystem ${dir})
+  # The compiler's own directories stay out: naming /usr/include again reorders the search path
+  # and breaks the standard library's #include_next.
+  if(NOT dir IN_LIST CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES)
+    list(APPEND QUENBY_OBJCXX_CHECK_FLAGS -isystem ${dir})
+  endif()
 endforeach()
 
 set(stamps)

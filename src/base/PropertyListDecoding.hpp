@@ -31,4 +31,14 @@ public:
   decode(std::span<const std::uint8_t> bytes) const = 0;
 };
 
+/// The inert decoder: decodes nothing.
+class InertPropertyListDecoder final : public PropertyListDecoding {
+public:
+  [[nodiscard]] Expected<PropertyListValue, PropertyListDecodingError>
+  decode(std::span<const std::uint8_t>) const override {
+    return Unexpected{PropertyListDecodingError{PropertyListDecodingError::Kind::malformed,
+                                                "no property-list decoder on this platform"}};
+  }
+};
+
 } // namespace quenby

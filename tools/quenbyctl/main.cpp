@@ -1,6 +1,35 @@
-#include <cstdio>
+#include "quenbyctl/DockCommand.hpp"
+#include "quenbyctl/SimulateCommand.hpp"
 
-int main() {
-  std::puts("quenbyctl");
-  return 0;
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: quenbyctl <command> [options]\n"
+    "\n"
+    "  simulate [--narrate] SCRIPT         run a scenario against a simulated Mac\n"
+    "  dock --plist FILE [--root DIR] [--json]\n"
+    "                                      show the nine Dock positions as Quenby derives them\n";
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  if (words.empty() || words.front() == "--help" || words.front() == "-h" ||
+      words.front() == "help") {
+    (words.empty() ? std::cerr : std::cout) << kUsage;
+    return words.empty() ? 2 : 0;
+  }
+  const std::vector<std::string> arguments(words.begin() + 1, words.end());
+  if (words.front() == "simulate") {
+    return quenby::runSimulateCommand(arguments, std::cin, std::cout, std::cerr);
+  }
+  if (words.front() == "dock") {
+    return quenby::runDockCommand(arguments, std::cout, std::cerr);
+  }
+  std::cerr << "quenbyctl: unknown command \"" << words.front() << "\"\n\n" << kUsage;
+  return 2;
 }

@@ -1,0 +1,51 @@
+# The application bundle. Included by the top level on Apple hosts only; everywhere else the
+# .mm files are syntax-checked instead (MacOSSyntaxCheck.cmake). The bundle links the portable
+# core and system frameworks, nothing else.
+
+enable_language(OBJCXX)
+
+if(NOT CMAKE_OSX_DEPLOYMENT_TARGET)
+  set(CMAKE_OSX_DEPLOYMENT_TARGET 13.0)
+endif()
+
+# JSON: the system's package when there is one, otherwise a pinned release. The top level must
+# look the package up without REQUIRED on Apple hosts for this fallback to be reached.
+if(NOT TARGET nlohmann_json::nlohmann_json)
+  include(FetchContent)
+  FetchContent_Declare(nlohmann_json
+    URL https://github.com/nlohmann/json/releases/download/v3.11.3/json.tar.xz
+    URL_HASH SHA256=d6c65aca6b1ed68e7a182f4757257b107ae403032760ed6ef121c9d55e81757d)
+  FetchContent_MakeAvailable(nlohmann_json)
+endif()
+
+quenby_glob_macos_sources(QUENBY_APP_SOURCES)
+
+set(QUENBY_APP_RESOURCES)
+set(QUENBY_STRINGS ${PROJECT_SOURCE_DIR}/resources/en.lproj/Localizable.strings)
+if(EXISTS ${QUENBY_STRINGS})
+  list(APPEND QUENBY_APP_RESOURCES ${QUENBY_STRINGS})
+  set_source_files_properties(${QUENBY_STRINGS} PROPERTIES
+    MACOSX_PACKAGE_LOCATION Resources/en.lproj)
+endif()
+
+add_executable(Quenby MACOSX_BUNDLE ${QUENBY_APP_SOURCES} ${QUENBY_APP_RESOURCES})
+set_target_properties(Quenby PROPERTIES
+  OUTPUT_NAME Quenby
+  MACOSX_BUNDLE_INFO_PLIST ${PROJECT_SOURCE_DIR}/resources/Info.plist.in
+  OBJCXX_STANDARD 20
+  OBJCXX_STANDARD_REQUIRED ON
+  OBJCXX_EXTENSIONS OFF)
+# The same warnings as the syntax check that guards these files off macOS.
+target_compile_options(Quenby PRIVATE
+  $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc -Wall -Wextra -Werror -Wno-four-char-constants
+                               -Wno-unused-parameter>)
+target_link_libraries(Quenby PRIVATE
+  quenby_core
+  "-framework AppKit"
+  "-framework ApplicationServices"
+  "-framework Carbon"
+  "-framework CoreGraphics"
+  "-framework CoreServices"
+  "-framework Foundation"
+  "-framework QuartzCore"
+  "-framework ServiceManagement")

@@ -1,0 +1,11 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <Foundation/NSObjCRuntime.h>
+
+#ifdef __cplusplus
+#define APPKIT_EXTERN extern "C"
+#else
+#define APPKIT_EXTERN extern
+#endif

@@ -1,0 +1,16 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <AppKit/NSView.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSFont;
+
+@interface NSControl : NSView
+@property(nullable, strong) NSFont* font;
+@end
+
+NS_ASSUME_NONNULL_END

@@ -1,0 +1,11 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+
+NS_ENUM(NSUInteger, NSBackingStoreType){
+    NSBackingStoreRetained = 0,
+    NSBackingStoreNonretained = 1,
+    NSBackingStoreBuffered = 2,
+};

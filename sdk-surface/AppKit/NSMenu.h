@@ -1,0 +1,17 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <Foundation/NSObject.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSMenuItem, NSString;
+
+@interface NSMenu : NSObject
+- (instancetype)initWithTitle:(NSString*)title;
+- (void)addItem:(NSMenuItem*)newItem;
+@end
+
+NS_ASSUME_NONNULL_END

@@ -1,0 +1,28 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <Foundation/NSArray.h>
+#import <Foundation/NSNotification.h>
+#import <Foundation/NSObject.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSString, NSURL;
+
+@interface NSWorkspace : NSObject
+@property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+// Every copy Launch Services knows of; empty when there is none.
+- (NSArray<NSURL*>*)URLsForApplicationsWithBundleIdentifier:(NSString*)bundleIdentifier;
+// Workspace notifications are posted here only, never on the default centre.
+@property(readonly, strong) NSNotificationCenter* notificationCenter;
+@end
+
+APPKIT_EXTERN NSNotificationName const NSWorkspaceDidMountNotification;
+APPKIT_EXTERN NSNotificationName const NSWorkspaceDidUnmountNotification;
+APPKIT_EXTERN NSNotificationName const NSWorkspaceDidRenameVolumeNotification;
+APPKIT_EXTERN NSNotificationName const NSWorkspaceDidLaunchApplicationNotification;
+APPKIT_EXTERN NSNotificationName const NSWorkspaceDidTerminateApplicationNotification;
+
+NS_ASSUME_NONNULL_END

@@ -1,0 +1,18 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#include <stdbool.h>
+
+#if defined(__arm64__) || defined(__aarch64__)
+typedef bool BOOL;
+#else
+typedef signed char BOOL;
+#endif
+
+#define YES __objc_yes
+#define NO __objc_no
+
+#ifndef nil
+#define nil nullptr
+#endif

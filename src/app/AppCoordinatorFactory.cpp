@@ -1,0 +1,19 @@
+#include "app/AppCoordinatorFactory.hpp"
+
+#include <utility>
+
+namespace quenby {
+
+std::unique_ptr<AppCoordinator> makeAppCoordinator(PlatformServices services,
+                                                   const Environment& environment,
+                                                   std::weak_ptr<AppRuntime>* runtime) {
+  const auto configuration = AppRuntimeConfiguration::fromEnvironment(environment);
+  auto graph = std::make_shared<AppRuntime>(std::move(services), configuration);
+  if (runtime != nullptr) {
+    *runtime = graph;
+  }
+  AppCoordinatorLifecycle lifecycle = graph->lifecycle();
+  return std::make_unique<AppCoordinator>(configuration, std::move(lifecycle), std::move(graph));
+}
+
+} // namespace quenby

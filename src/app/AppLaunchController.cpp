@@ -1,0 +1,46 @@
+#include "app/AppLaunchController.hpp"
+
+#include <utility>
+
+namespace quenby {
+
+AppLaunchController::AppLaunchController(AppLaunchContext launchContext,
+                                         CoordinatorFactory makeCoordinator,
+                                         StatusItemFactory makeStatusItemPresenter)
+    : makeCoordinator_(std::move(makeCoordinator)),
+      makeStatusItemPresenter_(std::move(makeStatusItemPresenter)), launchContext_(launchContext) {}
+
+AppLaunchController::~AppLaunchController() = default;
+
+void AppLaunchController::applicationDidFinishLaunching() {
+  if (coordinator_) {
+    return;
+  }
+  coordinator_ = makeCoordinator_();
+  coordinator_->start();
+  if (launchContext_.includesMenuBarExtra) {
+    statusItemPresenter_ = makeStatusItemPresenter_();
+    statusItemPresenter_->install();
+  }
+}
+
+void AppLaunchController::applicationWillTerminate() {
+  if (auto presenter = std::exchange(statusItemPresenter_, nullptr)) {
+    presenter->remove();
+  }
+  if (auto coordinator = std::exchange(coordinator_, nullptr)) {
+    coordinator->stop();
+  }
+}
+
+void AppLaunchController::showSettings() {
+  if (coordinator_) {
+    coordinator_->showSettings();
+  }
+}
+
+AppSettingsCommandBridge AppLaunchController::settingsCommand(const Localizer& localizer) {
+  return AppSettingsCommandBridge::make(localizer, [this] { showSettings(); });
+}
+
+} // namespace quenby

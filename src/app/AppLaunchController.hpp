@@ -1,0 +1,46 @@
+#pragma once
+
+#include "app/AppCoordinating.hpp"
+#include "app/AppLaunchContext.hpp"
+#include "app/AppSettingsCommandBridge.hpp"
+#include "app/StatusItemPresenting.hpp"
+
+#include <functional>
+#include <memory>
+
+namespace quenby {
+
+/// The application delegate's decisions, kept out of the platform's delegate class so that they
+/// run under test: one coordinator per process, the status item only outside a test host, and an
+/// orderly teardown.
+class AppLaunchController {
+public:
+  using CoordinatorFactory = std::function<std::unique_ptr<AppCoordinating>()>;
+  using StatusItemFactory = std::function<std::unique_ptr<StatusItemPresenting>()>;
+
+  AppLaunchController(AppLaunchContext launchContext, CoordinatorFactory makeCoordinator,
+                      StatusItemFactory makeStatusItemPresenter);
+  AppLaunchController(const AppLaunchController&) = delete;
+  AppLaunchController& operator=(const AppLaunchController&) = delete;
+  ~AppLaunchController();
+
+  /// A second delivery is ignored.
+  void applicationDidFinishLaunching();
+  void applicationWillTerminate();
+  /// The Settings command; does nothing before launch has finished or after termination.
+  void showSettings();
+  [[nodiscard]] AppSettingsCommandBridge settingsCommand(const Localizer& localizer);
+
+  [[nodiscard]] const AppLaunchContext& launchContext() const { return launchContext_; }
+  [[nodiscard]] AppCoordinating* coordinator() const { return coordinator_.get(); }
+  [[nodiscard]] bool hasStatusItem() const { return statusItemPresenter_ != nullptr; }
+
+private:
+  CoordinatorFactory makeCoordinator_;
+  StatusItemFactory makeStatusItemPresenter_;
+  std::unique_ptr<AppCoordinating> coordinator_;
+  std::unique_ptr<StatusItemPresenting> statusItemPresenter_;
+  AppLaunchContext launchContext_;
+};
+
+} // namespace quenby

@@ -1,0 +1,100 @@
+// The macOS layer cannot be built here, so what can be checked off a Mac is checked from the
+// sources: the bundle's Info.plist template, and the boundary between the portable core and the
+// Objective-C++ adapters.
+
+#include "simulation/LibplistPropertyListDecoder.hpp"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace quenby {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSourceDir = QUENBY_SOURCE_DIR;
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream out;
+  out << file.rdbuf();
+  return out.str();
+}
+
+std::vector<fs::path> sourcesUnder(const fs::path& root) {
+  std::vector<fs::path> found;
+  for (const auto& item : fs::recursive_directory_iterator(root)) {
+    if (item.is_regular_file()) {
+      found.push_back(item.path());
+    }
+  }
+  return found;
+}
+
+bool inMacOSFolder(const fs::path& path) {
+  for (const auto& part : path) {
+    if (part == "macos") {
+      return true;
+    }
+  }
+  return false;
+}
+
+TEST(MacOSLayerTest, InfoPlistTemplateDescribesAnAccessoryBundle) {
+  std::string text = contents(kSourceDir / "resources/Info.plist.in");
+  const std::string placeholder = "@PROJECT_VERSION@";
+  int substituted = 0;
+  for (auto at = text.find(placeholder); at != std::string::npos; at = text.find(placeholder)) {
+    text.replace(at, placeholder.size(), "1.2.3");
+    ++substituted;
+  }
+  EXPECT_EQ(substituted, 2);
+
+  const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+  const auto plist = LibplistPropertyListDecoder().decode(bytes);
+  ASSERT_TRUE(plist.hasValue()) << plist.error().message;
+  const auto stringAt = [&](std::string_view key) -> std::string {
+    const PropertyListValue* value = plist->find(key);
+    return value != nullptr && value->string() != nullptr ? *value->string() : "<missing>";
+  };
+  EXPECT_EQ(stringAt("CFBundleIdentifier"), "com.brimfold.Quenby");
+  EXPECT_EQ(stringAt("CFBundleExecutable"), "Quenby");
+  EXPECT_EQ(stringAt("CFBundleName"), "Quenby");
+  EXPECT_EQ(stringAt("CFBundlePackageType"), "APPL");
+  EXPECT_EQ(stringAt("LSMinimumSystemVersion"), "13.0");
+  EXPECT_EQ(stringAt("CFBundleShortVersionString"), "1.2.3");
+  EXPECT_EQ(stringAt("CFBundleVersion"), "1.2.3");
+  // A Boolean, not the string "YES": Launch Services ignores the wrong kind.
+  const PropertyListValue* agent = plist->find("LSUIElement");
+  ASSERT_NE(agent, nullptr);
+  ASSERT_NE(agent->boolean(), nullptr);
+  EXPECT_TRUE(*agent->boolean());
+}
+
+TEST(MacOSLayerTest, AppleFrameworksStayInsideTheMacOSFolders) {
+  const std::regex appleInclude(
+      R"(#\s*(import|include)\s*<(AppKit|Foundation|CoreFoundation|CoreGraphics|Carbon|)"
+      R"(ApplicationServices|CoreServices|QuartzCore|ServiceManagement|objc|os|dispatch)/)");
+  for (const auto& path : sourcesUnder(kSourceDir / "src")) {
+    const auto extension = path.extension();
+    const std::string text = contents(path);
+    if (!inMacOSFolder(path)) {
+      EXPECT_NE(extension, ".mm") << path << ": Objective-C++ belongs in a macos/ folder";
+      EXPECT_FALSE(std::regex_search(text, appleInclude)) << path << " includes an Apple header";
+    } else if (extension == ".hpp") {
+      // Plain C++ headers: the Objective-C types stay in the .mm files.
+      EXPECT_FALSE(std::regex_search(text, appleInclude)) << path << " includes an Apple header";
+      EXPECT_EQ(text.find("#import"), std::string::npos) << path << " imports Objective-C";
+    } else if (extension == ".mm") {
+      EXPECT_TRUE(text.starts_with("//")) << path << " must open with its threading contract";
+    }
+  }
+}
+
+} // namespace
+} // namespace quenby

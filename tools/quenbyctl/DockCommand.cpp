@@ -1,0 +1,212 @@
+#include "quenbyctl/DockCommand.hpp"
+
+#include "base/DistributedNotificationObserving.hpp"
+#include "base/ManualScheduler.hpp"
+#include "base/PosixFileSystem.hpp"
+#include "shortcuts/BundleApplicationMetadataReader.hpp"
+#include "shortcuts/DirectoryScanningApplicationLocator.hpp"
+#include "shortcuts/DockNumberMappingProvider.hpp"
+#include "shortcuts/PropertyListFileDockPreferences.hpp"
+#include "shortcuts/SystemApplicationBundleFileInspector.hpp"
+#include "shortcuts/WorkspaceApplicationResolver.hpp"
+#include "simulation/DockPositionJSON.hpp"
+#include "simulation/LibplistPropertyListDecoder.hpp"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace quenby {
+namespace {
+
+constexpr std::string_view kUsage = "usage: quenbyctl dock --plist FILE [--root DIR] [--json]";
+
+struct DockOptions {
+  std::string plist;
+  std::optional<FileURL> root;
+  bool json = false;
+};
+
+int usageError(std::ostream& err, std::string_view problem) {
+  err << "quenbyctl dock: " << problem << '\n' << kUsage << '\n';
+  return 2;
+}
+
+/// The options, or the exit status of a usage error (already reported).
+std::variant<DockOptions, int> parseOptions(const std::vector<std::string>& arguments,
+                                            std::ostream& out, std::ostream& err) {
+  DockOptions options;
+  bool hasPlist = false;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    if (argument == "--help" || argument == "-h") {
+      out << kUsage << '\n';
+      return 0;
+    }
+    if (argument == "--json") {
+      options.json = true;
+      continue;
+    }
+    if (argument != "--plist" && argument != "--root") {
+      return usageError(err, "unexpected argument '" + argument + "'");
+    }
+    if (i + 1 == arguments.size()) {
+      return usageError(err, argument + " needs a value");
+    }
+    const std::string& value = arguments[++i];
+    if (argument == "--plist") {
+      options.plist = value;
+      hasPlist = true;
+      continue;
+    }
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(value, error);
+    if (error || !std::filesystem::is_directory(absolute, error)) {
+      return usageError(err, "--root " + value + " is not a directory");
+    }
+    options.root = FileURL::fromPath(absolute.string());
+  }
+  if (!hasPlist) {
+    return usageError(err, "--plist FILE is required");
+  }
+  return options;
+}
+
+/// Resolves as though the disk began at `root`: the Dock's paths are looked for below it, and
+/// every answer comes back without it.
+class RootedApplicationResolver final : public ApplicationResolving {
+public:
+  RootedApplicationResolver(ApplicationResolving& resolver, FileURL root)
+      : resolver_(resolver), root_(std::move(root)) {}
+
+  [[nodiscard]] ApplicationResolution resolve(const std::string& bundleIdentifier,
+                                              const FileURL& lastKnownURL) override {
+    const auto answer = resolver_.resolve(bundleIdentifier, root_.appending(lastKnownURL.path()));
+    if (const auto resolved = answer.resolvedURL()) {
+      return ApplicationResolution::resolved(unrooted(*resolved));
+    }
+    if (answer.kind() == ApplicationResolution::Kind::ambiguous) {
+      std::vector<FileURL> candidates;
+      for (const auto& candidate : answer.candidatePaths()) {
+        candidates.push_back(unrooted(candidate));
+      }
+      return ApplicationResolution::ambiguous(std::move(candidates));
+    }
+    return answer;
+  }
+  [[nodiscard]] std::uint64_t catalogRevision() const override {
+    return resolver_.catalogRevision();
+  }
+
+private:
+  [[nodiscard]] FileURL unrooted(const FileURL& url) const {
+    if (!url.isInside(root_)) {
+      return url;
+    }
+    return FileURL::fromPath(std::string_view(url.path()).substr(root_.path().size()));
+  }
+
+  ApplicationResolving& resolver_;
+  FileURL root_;
+};
+
+std::string joinedPaths(const std::vector<FileURL>& urls) {
+  std::string text;
+  for (const auto& url : urls) {
+    text += (text.empty() ? "" : ", ") + url.path();
+  }
+  return text;
+}
+
+/// `⌥1  Mail  /System/Applications/Mail.app`, with the outcome when it is not the plain one.
+std::string textLine(int position, const NumberMappingEntry& entry) {
+  std::string line = "\u2325" + std::to_string(position) + "  ";
+  if (const AppMapping* mapping = entry.mapping()) {
+    line += mapping->displayName + "  " + mapping->lastKnownURL.path();
+    const auto& resolution = mapping->resolution;
+    if (const auto resolved = resolution.resolvedURL()) {
+      if (*resolved != mapping->lastKnownURL) {
+        line += "  \u2192 " + resolved->path();
+      }
+    } else if (resolution.kind() == ApplicationResolution::Kind::ambiguous) {
+      line += "  (ambiguous: " + joinedPaths(resolution.candidatePaths()) + ")";
+    } else {
+      line += "  (not found)";
+    }
+    return line;
+  }
+  const NumberMappingProblem& problem = *entry.problem();
+  switch (problem.kind()) {
+  case NumberMappingProblem::Kind::emptyDockPosition:
+    return line + "(empty)";
+  case NumberMappingProblem::Kind::invalidDockEntry:
+    return line + "(invalid) " + problem.message();
+  case NumberMappingProblem::Kind::preferencesUnavailable:
+    break;
+  }
+  return line + "(unavailable) " + problem.message();
+}
+
+} // namespace
+
+int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
+                   std::ostream& err) {
+  auto parsed = parseOptions(arguments, out, err);
+  if (const int* status = std::get_if<int>(&parsed)) {
+    return *status;
+  }
+  const DockOptions& options = std::get<DockOptions>(parsed);
+
+  PosixFileSystem fileSystem;
+  LibplistPropertyListDecoder decoder;
+  PropertyListFileDockPreferences preferences(fileSystem, decoder, options.plist);
+  if (!preferences.synchronize()) {
+    err << "quenbyctl dock: " << preferences.lastFailure().value_or(options.plist) << '\n';
+    return 1;
+  }
+
+  SystemApplicationBundleFileInspector inspector(fileSystem);
+  BundleApplicationMetadataReader metadataReader(inspector, decoder);
+  std::unique_ptr<InstalledApplicationLocating> locator;
+  if (options.root) {
+    locator = std::make_unique<DirectoryScanningApplicationLocator>(fileSystem, metadataReader,
+                                                                    *options.root);
+  } else {
+    locator = std::make_unique<InertInstalledApplicationLocator>();
+  }
+  WorkspaceApplicationResolver workspaceResolver(*locator, metadataReader);
+  std::optional<RootedApplicationResolver> rootedResolver;
+  if (options.root) {
+    rootedResolver.emplace(workspaceResolver, *options.root);
+  }
+  ApplicationResolving& resolver =
+      rootedResolver ? static_cast<ApplicationResolving&>(*rootedResolver) : workspaceResolver;
+
+  auto reader = preferences.makeReader();
+  ManualScheduler scheduler;
+  InertDistributedNotificationCenter notificationCenter;
+  EnglishLocalizer localizer;
+  DockNumberMappingProvider provider(reader, resolver, scheduler, notificationCenter, nullptr,
+                                     localizer);
+  // The resolver answers from its catalog, which only learns of an application once asked
+  // about it: ask, verify what was asked about, then ask again.
+  provider.reload(true);
+  workspaceResolver.refreshCatalog(nullptr);
+  provider.reload(true);
+
+  const auto& entries = provider.current().entries;
+  if (options.json) {
+    const auto identity = [](const FileURL& url) { return url.path(); };
+    const nlohmann::ordered_json document{{"positions", dockPositionsJSON(entries, identity)}};
+    out << document.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+    return 0;
+  }
+  for (int position = NumberMappingEntries::kFirstPosition;
+       position <= NumberMappingEntries::kLastPosition; ++position) {
+    out << textLine(position, entries.at(position)) << '\n';
+  }
+  return 0;
+}
+
+} // namespace quenby
