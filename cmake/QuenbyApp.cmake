@@ -4,20 +4,6 @@
 
 enable_language(OBJCXX)
 
-if(NOT CMAKE_OSX_DEPLOYMENT_TARGET)
-  set(CMAKE_OSX_DEPLOYMENT_TARGET 13.0)
-endif()
-
-# JSON: the system's package when there is one, otherwise a pinned release. The top level must
-# look the package up without REQUIRED on Apple hosts for this fallback to be reached.
-if(NOT TARGET nlohmann_json::nlohmann_json)
-  include(FetchContent)
-  FetchContent_Declare(nlohmann_json
-    URL https://github.com/nlohmann/json/releases/download/v3.11.3/json.tar.xz
-    URL_HASH SHA256=d6c65aca6b1ed68e7a182f4757257b107ae403032760ed6ef121c9d55e81757d)
-  FetchContent_MakeAvailable(nlohmann_json)
-endif()
-
 quenby_glob_macos_sources(QUENBY_APP_SOURCES)
 
 set(QUENBY_APP_RESOURCES)

@@ -4,19 +4,33 @@
 #include "app/macos/LiveAppRuntime.hpp"
 
 #include "app/macos/AccessoryActivationPolicy.hpp"
+#include "app/macos/SystemConfigurationFailurePanelFactory.hpp"
 #include "base/PosixFileSystem.hpp"
 #include "base/macos/BundleLocalizer.hpp"
 #include "base/macos/CoreFoundationPropertyListDecoder.hpp"
+#include "base/macos/DistributedNotificationCenter.hpp"
 #include "base/macos/MainQueueScheduler.hpp"
 #include "base/macos/OSLogLogger.hpp"
 #include "base/macos/UserDefaultsKeyValueStore.hpp"
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
+#include "shortcuts/SystemDockPreferenceReader.hpp"
+#include "shortcuts/macos/SystemApplicationSpotlightQuery.hpp"
+#include "shortcuts/macos/SystemApplicationWorkspaceNotificationObserver.hpp"
+#include "shortcuts/macos/SystemDockPreferences.hpp"
+#include "shortcuts/macos/WorkspaceApplicationLocator.hpp"
 
 #include <memory>
+#include <utility>
 
 namespace quenby {
 
+// Every field below is filled; a field added to the bundle must be filled here too, and this
+// stops the syntax check until it is.
+static_assert(sizeof(PlatformServices) == 15 * sizeof(std::shared_ptr<void>),
+              "PlatformServices changed: fill the new adapter below");
+
 PlatformServices makeLivePlatformServices() {
+  SystemDockPreferences dock = makeSystemDockPreferences();
   return {
       .userDefaults = std::make_shared<UserDefaultsKeyValueStore>(),
       .scheduler = std::make_shared<MainQueueScheduler>(),
@@ -27,6 +41,13 @@ PlatformServices makeLivePlatformServices() {
       .propertyListDecoder = std::make_shared<CoreFoundationPropertyListDecoder>(),
       .activationPolicy = std::make_shared<AccessoryActivationPolicy>(),
       .windowPlacementSnapshotProvider = std::make_shared<SystemWindowPlacementSnapshotProvider>(),
+      .distributedNotificationCenter = std::make_shared<DistributedNotificationCenter>(),
+      .dockPreferenceReader = std::make_shared<SystemDockPreferenceReader>(
+          std::move(dock.synchronize), std::move(dock.copyPersistentApps)),
+      .applicationLocator = std::make_shared<WorkspaceApplicationLocator>(),
+      .spotlightQuery = std::make_shared<SystemApplicationSpotlightQuery>(),
+      .workspaceNotifications = std::make_shared<SystemApplicationWorkspaceNotificationObserver>(),
+      .failurePanelFactory = std::make_shared<SystemConfigurationFailurePanelFactory>(),
   };
 }
 
