@@ -315,7 +315,7 @@ void ScenarioRunner::dockLine(const Arguments& arguments) {
     dock.appendDocument(diskURL(arguments[2]));
   } else if (kind == "plist") {
     needs(3, "dock plist FILE");
-    dock.useFile(resolveScriptFile(arguments[2]));
+    dock.useFile(resolveScriptFile(arguments[2]), world_.diskRoot());
   } else if (kind == "clear") {
     needs(2, "dock clear");
     dock.clear();
