@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/FileSystem.hpp"
+#include "base/FileURL.hpp"
 #include "base/PropertyListDecoding.hpp"
 #include "shortcuts/SystemDockPreferenceReader.hpp"
 
@@ -19,9 +20,11 @@ public:
   /// Larger files are not Dock preferences and are refused rather than loaded.
   static constexpr std::uint64_t kMaximumFileBytes = 64ULL * 1024 * 1024;
 
-  /// `fileSystem` and `decoder` must outlive this object.
+  /// `fileSystem` and `decoder` must outlive this object. With `pathRoot`, the file describes a
+  /// Mac whose disk begins there (a copied Dock file beside copied applications, the simulated
+  /// Mac): every item's file URL is taken below it.
   PropertyListFileDockPreferences(const FileSystem& fileSystem, const PropertyListDecoding& decoder,
-                                  std::string path);
+                                  std::string path, std::optional<FileURL> pathRoot = std::nullopt);
 
   /// Reads the file again; false when it cannot be read or is not a property list. Unchanged
   /// bytes are not decoded again, so polling an unchanged file costs one read.
@@ -41,8 +44,10 @@ private:
   const FileSystem& fileSystem_;
   const PropertyListDecoding& decoder_;
   std::string path_;
+  std::optional<FileURL> pathRoot_;
   std::vector<std::uint8_t> lastBytes_;
-  std::optional<PropertyListValue> root_;
+  bool isLoaded_ = false;
+  std::optional<PropertyListValue> persistentApps_;
   std::optional<std::string> lastFailure_;
 };
 

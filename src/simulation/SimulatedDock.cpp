@@ -17,50 +17,6 @@ PropertyListValue fileData(const std::string& urlString) {
 /// Bundles and folders carry a trailing slash in the Dock's URLs.
 std::string directoryURLString(const FileURL& url) { return url.absoluteString() + "/"; }
 
-/// A Dock URL string ("file:///…/" or a plain absolute path) moved below `root`.
-PropertyListValue rebasedURLString(const PropertyListValue& value, const std::string& root) {
-  const std::string* text = value.string();
-  if (text == nullptr || text->empty()) {
-    return value;
-  }
-  if (text->front() == '/') {
-    return root + *text;
-  }
-  const auto url = FileURL::fromString(*text);
-  if (!url) {
-    return value;
-  }
-  const std::string rebased = FileURL::fromPath(root + url->path()).absoluteString();
-  return text->back() == '/' ? rebased + "/" : rebased;
-}
-
-/// The same "persistent-apps", with every item's file URL moved below `root`.
-PropertyListValue rebasedPersistentApps(const PropertyListValue& apps, const std::string& root) {
-  const auto* items = apps.array();
-  if (items == nullptr) {
-    return apps;
-  }
-  PropertyListValue::Array rebased;
-  rebased.reserve(items->size());
-  for (const auto& item : *items) {
-    const PropertyListValue* tileData = item.find("tile-data");
-    const PropertyListValue* fileData = tileData ? tileData->find("file-data") : nullptr;
-    const PropertyListValue* urlString = fileData ? fileData->find("_CFURLString") : nullptr;
-    if (urlString == nullptr) {
-      rebased.push_back(item);
-      continue;
-    }
-    auto newFileData = *fileData->dictionary();
-    newFileData.insert_or_assign("_CFURLString", rebasedURLString(*urlString, root));
-    auto newTileData = *tileData->dictionary();
-    newTileData.insert_or_assign("file-data", std::move(newFileData));
-    auto newItem = *item.dictionary();
-    newItem.insert_or_assign("tile-data", std::move(newTileData));
-    rebased.emplace_back(std::move(newItem));
-  }
-  return rebased;
-}
-
 } // namespace
 
 SimulatedDock::SimulatedDock(std::shared_ptr<const FileSystem> fileSystem,
@@ -139,11 +95,11 @@ void SimulatedDock::makePersistentAppsInvalid() {
   invalidValue_ = PropertyListValue::Dictionary{{"tile-type", "file-tile"}};
 }
 
-void SimulatedDock::useFile(const std::string& hostPath, std::string diskRoot) {
+void SimulatedDock::useFile(const std::string& hostPath, const std::string& diskRoot) {
   tiles_.reset();
   invalidValue_.reset();
-  fileDiskRoot_ = std::move(diskRoot);
-  file_ = std::make_unique<PropertyListFileDockPreferences>(*fileSystem_, *decoder_, hostPath);
+  file_ = std::make_unique<PropertyListFileDockPreferences>(*fileSystem_, *decoder_, hostPath,
+                                                            FileURL::fromPath(diskRoot));
 }
 
 bool SimulatedDock::synchronize() {
@@ -155,8 +111,7 @@ bool SimulatedDock::synchronize() {
 
 std::optional<PropertyListValue> SimulatedDock::copyPersistentApps() const {
   if (file_) {
-    auto apps = file_->copyPersistentApps();
-    return apps ? std::optional(rebasedPersistentApps(*apps, fileDiskRoot_)) : std::nullopt;
+    return file_->copyPersistentApps();
   }
   if (invalidValue_) {
     return invalidValue_;

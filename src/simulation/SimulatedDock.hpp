@@ -33,7 +33,7 @@ public:
   void makePersistentAppsInvalid();
   /// The domain becomes a real property-list file, read anew at every synchronisation. Its
   /// absolute paths are taken below `diskRoot`, like every path of the simulated Mac.
-  void useFile(const std::string& hostPath, std::string diskRoot);
+  void useFile(const std::string& hostPath, const std::string& diskRoot);
   void setSynchronizationFails(bool fails) { synchronizationFails_ = fails; }
 
   /// What the program's preference reader sees.
@@ -48,7 +48,6 @@ private:
   std::optional<PropertyListValue::Array> tiles_ = PropertyListValue::Array{};
   std::optional<PropertyListValue> invalidValue_;
   std::unique_ptr<PropertyListFileDockPreferences> file_;
-  std::string fileDiskRoot_;
   std::int64_t nextGUID_ = 3'100'000'001;
   bool synchronizationFails_ = false;
 };

@@ -73,64 +73,35 @@ std::variant<DockOptions, int> parseOptions(const std::vector<std::string>& argu
   return options;
 }
 
-/// Resolves as though the disk began at `root`: the Dock's paths are looked for below it, and
-/// every answer comes back without it.
-class RootedApplicationResolver final : public ApplicationResolving {
-public:
-  RootedApplicationResolver(ApplicationResolving& resolver, FileURL root)
-      : resolver_(resolver), root_(std::move(root)) {}
-
-  [[nodiscard]] ApplicationResolution resolve(const std::string& bundleIdentifier,
-                                              const FileURL& lastKnownURL) override {
-    const auto answer = resolver_.resolve(bundleIdentifier, root_.appending(lastKnownURL.path()));
-    if (const auto resolved = answer.resolvedURL()) {
-      return ApplicationResolution::resolved(unrooted(*resolved));
-    }
-    if (answer.kind() == ApplicationResolution::Kind::ambiguous) {
-      std::vector<FileURL> candidates;
-      for (const auto& candidate : answer.candidatePaths()) {
-        candidates.push_back(unrooted(candidate));
-      }
-      return ApplicationResolution::ambiguous(std::move(candidates));
-    }
-    return answer;
+/// A path as the user gave it: without the root the disk was taken to begin at.
+std::string displayPath(const FileURL& url, const std::optional<FileURL>& root) {
+  if (!root || !url.isInside(*root)) {
+    return url.path();
   }
-  [[nodiscard]] std::uint64_t catalogRevision() const override {
-    return resolver_.catalogRevision();
-  }
+  return url.path().substr(root->path() == "/" ? 0 : root->path().size());
+}
 
-private:
-  [[nodiscard]] FileURL unrooted(const FileURL& url) const {
-    if (!url.isInside(root_)) {
-      return url;
-    }
-    return FileURL::fromPath(std::string_view(url.path()).substr(root_.path().size()));
-  }
-
-  ApplicationResolving& resolver_;
-  FileURL root_;
-};
-
-std::string joinedPaths(const std::vector<FileURL>& urls) {
+std::string joinedPaths(const std::vector<FileURL>& urls, const std::optional<FileURL>& root) {
   std::string text;
   for (const auto& url : urls) {
-    text += (text.empty() ? "" : ", ") + url.path();
+    text += (text.empty() ? "" : ", ") + displayPath(url, root);
   }
   return text;
 }
 
 /// `⌥1  Mail  /System/Applications/Mail.app`, with the outcome when it is not the plain one.
-std::string textLine(int position, const NumberMappingEntry& entry) {
+std::string textLine(int position, const NumberMappingEntry& entry,
+                     const std::optional<FileURL>& root) {
   std::string line = "\u2325" + std::to_string(position) + "  ";
   if (const AppMapping* mapping = entry.mapping()) {
-    line += mapping->displayName + "  " + mapping->lastKnownURL.path();
+    line += mapping->displayName + "  " + displayPath(mapping->lastKnownURL, root);
     const auto& resolution = mapping->resolution;
     if (const auto resolved = resolution.resolvedURL()) {
       if (*resolved != mapping->lastKnownURL) {
-        line += "  \u2192 " + resolved->path();
+        line += "  \u2192 " + displayPath(*resolved, root);
       }
     } else if (resolution.kind() == ApplicationResolution::Kind::ambiguous) {
-      line += "  (ambiguous: " + joinedPaths(resolution.candidatePaths()) + ")";
+      line += "  (ambiguous: " + joinedPaths(resolution.candidatePaths(), root) + ")";
     } else {
       line += "  (not found)";
     }
@@ -160,7 +131,7 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
 
   PosixFileSystem fileSystem;
   LibplistPropertyListDecoder decoder;
-  PropertyListFileDockPreferences preferences(fileSystem, decoder, options.plist);
+  PropertyListFileDockPreferences preferences(fileSystem, decoder, options.plist, options.root);
   if (!preferences.synchronize()) {
     err << "quenbyctl dock: " << preferences.lastFailure().value_or(options.plist) << '\n';
     return 1;
@@ -175,13 +146,7 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
   } else {
     locator = std::make_unique<InertInstalledApplicationLocator>();
   }
-  WorkspaceApplicationResolver workspaceResolver(*locator, metadataReader);
-  std::optional<RootedApplicationResolver> rootedResolver;
-  if (options.root) {
-    rootedResolver.emplace(workspaceResolver, *options.root);
-  }
-  ApplicationResolving& resolver =
-      rootedResolver ? static_cast<ApplicationResolving&>(*rootedResolver) : workspaceResolver;
+  WorkspaceApplicationResolver resolver(*locator, metadataReader);
 
   auto reader = preferences.makeReader();
   ManualScheduler scheduler;
@@ -192,19 +157,19 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
   // The resolver answers from its catalog, which only learns of an application once asked
   // about it: ask, verify what was asked about, then ask again.
   provider.reload(true);
-  workspaceResolver.refreshCatalog(nullptr);
+  resolver.refreshCatalog(nullptr);
   provider.reload(true);
 
   const auto& entries = provider.current().entries;
   if (options.json) {
-    const auto identity = [](const FileURL& url) { return url.path(); };
-    const nlohmann::ordered_json document{{"positions", dockPositionsJSON(entries, identity)}};
+    const auto display = [&options](const FileURL& url) { return displayPath(url, options.root); };
+    const nlohmann::ordered_json document{{"positions", dockPositionsJSON(entries, display)}};
     out << document.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
     return 0;
   }
   for (int position = NumberMappingEntries::kFirstPosition;
        position <= NumberMappingEntries::kLastPosition; ++position) {
-    out << textLine(position, entries.at(position)) << '\n';
+    out << textLine(position, entries.at(position), options.root) << '\n';
   }
   return 0;
 }
