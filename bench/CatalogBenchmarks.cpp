@@ -4,10 +4,10 @@
 // refresh is measured against.
 
 #include "base/PosixFileSystem.hpp"
-#include "shortcuts/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/SystemApplicationBundleFileInspector.hpp"
-#include "shortcuts/WorkspaceApplicationResolver.hpp"
-#include "simulation/LibplistPropertyListDecoder.hpp"
+#include "base/libplist/LibplistPropertyListDecoder.hpp"
+#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
+#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
+#include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "simulation/LibplistPropertyListEncoder.hpp"
 #include "simulation/TemporaryDirectory.hpp"
 

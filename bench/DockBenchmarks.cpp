@@ -4,8 +4,8 @@
 
 #include "base/DistributedNotificationObserving.hpp"
 #include "base/ManualScheduler.hpp"
-#include "shortcuts/DockNumberMappingProvider.hpp"
-#include "shortcuts/SystemDockPreferenceReader.hpp"
+#include "shortcuts/dock/DockNumberMappingProvider.hpp"
+#include "shortcuts/dock/SystemDockPreferenceReader.hpp"
 #include "support/DockItems.hpp"
 #include "support/ScriptedApplicationResolver.hpp"
 

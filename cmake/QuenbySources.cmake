@@ -3,12 +3,13 @@
 
 set(QUENBY_CORE_SUBSYSTEMS base app shortcuts hud data ui)
 
-# Portable sources: every .cpp of the core subsystems outside their macos/ folders.
+# Portable sources: every .cpp of the core subsystems outside their macos/ folders and the
+# libplist room (the property-list decoder for hosts without CoreFoundation).
 function(quenby_glob_core_sources out)
   set(sources)
   foreach(subsystem IN LISTS QUENBY_CORE_SUBSYSTEMS)
     file(GLOB_RECURSE found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${subsystem}/*.cpp)
-    list(FILTER found EXCLUDE REGEX "/macos/")
+    list(FILTER found EXCLUDE REGEX "/(macos|libplist)/")
     list(APPEND sources ${found})
   endforeach()
   set(${out} ${sources} PARENT_SCOPE)

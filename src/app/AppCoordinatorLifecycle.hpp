@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shortcuts/KeyboardMappingSnapshot.hpp"
+#include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
 
 #include <functional>
 

@@ -8,12 +8,12 @@
 #include "app/ShortcutDiagnosticsHealthAdapter.hpp"
 #include "app/SystemConfigurationFailurePanelPresenter.hpp"
 #include "data/AppPreferencesStore.hpp"
-#include "shortcuts/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/DockNumberMappingProvider.hpp"
-#include "shortcuts/SystemApplicationBundleFileInspector.hpp"
-#include "shortcuts/SystemApplicationCatalogDistributedObserver.hpp"
-#include "shortcuts/WorkspaceApplicationCatalogMonitor.hpp"
-#include "shortcuts/WorkspaceApplicationResolver.hpp"
+#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
+#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
+#include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
+#include "shortcuts/catalog/WorkspaceApplicationCatalogMonitor.hpp"
+#include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
+#include "shortcuts/dock/DockNumberMappingProvider.hpp"
 
 namespace quenby {
 

@@ -11,10 +11,4 @@ public:
   virtual void present(const ConfigurationFailure& failure) = 0;
 };
 
-/// The inert presenter: shows nothing.
-class InertConfigurationFailurePresenter final : public ConfigurationFailurePresenting {
-public:
-  void present(const ConfigurationFailure&) override {}
-};
-
 } // namespace quenby

@@ -11,10 +11,4 @@ public:
   virtual void report(const ConfigurationFailure& failure) = 0;
 };
 
-/// The inert reporter: drops every failure.
-class InertConfigurationFailureReporter final : public ConfigurationFailureReporting {
-public:
-  void report(const ConfigurationFailure&) override {}
-};
-
 } // namespace quenby

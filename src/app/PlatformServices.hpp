@@ -11,10 +11,10 @@
 #include "base/MonotonicClock.hpp"
 #include "base/PropertyListDecoding.hpp"
 #include "data/WindowPlacementSnapshotProviding.hpp"
-#include "shortcuts/ApplicationSpotlightQuerying.hpp"
-#include "shortcuts/ApplicationWorkspaceNotificationObserving.hpp"
-#include "shortcuts/DockPreferenceReading.hpp"
-#include "shortcuts/InstalledApplicationLocating.hpp"
+#include "shortcuts/catalog/ApplicationSpotlightQuerying.hpp"
+#include "shortcuts/catalog/ApplicationWorkspaceNotificationObserving.hpp"
+#include "shortcuts/catalog/InstalledApplicationLocating.hpp"
+#include "shortcuts/dock/DockPreferenceReading.hpp"
 
 #include <memory>
 

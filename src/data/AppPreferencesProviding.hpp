@@ -44,39 +44,4 @@ public:
   [[nodiscard]] virtual AppPreferenceObservation observe(Handler handler) = 0;
 };
 
-/// The inert preferences: always the defaults of a fresh installation; writes are ignored and
-/// nobody is ever told of a change.
-class InertAppPreferences final : public AppPreferencesProviding {
-public:
-  [[nodiscard]] WindowPlacementPreference windowPlacement() const override {
-    return WindowPlacementPreference::mainDisplay;
-  }
-  void setWindowPlacement(WindowPlacementPreference) override {}
-  [[nodiscard]] HUDSizePreference hudSize() const override { return HUDSizePreference::standard; }
-  void setHUDSize(HUDSizePreference) override {}
-  [[nodiscard]] ActivationModifierPreference activationModifier() const override {
-    return ActivationModifierPreference::option;
-  }
-  void setActivationModifier(ActivationModifierPreference) override {}
-  [[nodiscard]] HUDActivationGesturePreference hudActivationGesture() const override {
-    return HUDActivationGesturePreference::both;
-  }
-  void setHUDActivationGesture(HUDActivationGesturePreference) override {}
-  [[nodiscard]] HUDThemePreference hudTheme() const override { return HUDThemePreference::system; }
-  void setHUDTheme(HUDThemePreference) override {}
-  [[nodiscard]] HUDOpacityPreference hudOpacity() const override {
-    return HUDOpacityPreference::oneHundred;
-  }
-  void setHUDOpacity(HUDOpacityPreference) override {}
-  [[nodiscard]] bool shortcutAnimationEnabled() const override { return true; }
-  void setShortcutAnimationEnabled(bool) override {}
-  [[nodiscard]] ShortcutAnimationDisplayPreference shortcutAnimationDisplay() const override {
-    return ShortcutAnimationDisplayPreference::mainDisplay;
-  }
-  void setShortcutAnimationDisplay(ShortcutAnimationDisplayPreference) override {}
-  [[nodiscard]] bool shortcutHidesFrontmostApplication() const override { return false; }
-  void setShortcutHidesFrontmostApplication(bool) override {}
-  [[nodiscard]] AppPreferenceObservation observe(Handler) override { return {}; }
-};
-
 } // namespace quenby

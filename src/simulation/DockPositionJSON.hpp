@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/FileURL.hpp"
-#include "shortcuts/NumberMappingEntries.hpp"
+#include "shortcuts/mapping/NumberMappingEntries.hpp"
 
 #include <functional>
 #include <nlohmann/json.hpp>

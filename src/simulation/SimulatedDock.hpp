@@ -4,7 +4,7 @@
 #include "base/FileURL.hpp"
 #include "base/PropertyListDecoding.hpp"
 #include "base/PropertyListValue.hpp"
-#include "shortcuts/PropertyListFileDockPreferences.hpp"
+#include "shortcuts/dock/PropertyListFileDockPreferences.hpp"
 
 #include <memory>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shortcuts/InstalledApplicationLocating.hpp"
+#include "shortcuts/catalog/InstalledApplicationLocating.hpp"
 
 #include <map>
 #include <string>

@@ -1,6 +1,6 @@
 #include "simulation/SimulatedPlatform.hpp"
 
-#include "shortcuts/SystemDockPreferenceReader.hpp"
+#include "shortcuts/dock/SystemDockPreferenceReader.hpp"
 #include "simulation/RecordingKeyValueStore.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
 #include "simulation/SimulatedLogger.hpp"

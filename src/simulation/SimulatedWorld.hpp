@@ -5,7 +5,7 @@
 #include "base/InMemoryKeyValueStore.hpp"
 #include "base/ManualScheduler.hpp"
 #include "base/PosixFileSystem.hpp"
-#include "simulation/LibplistPropertyListDecoder.hpp"
+#include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "simulation/SimulatedApplications.hpp"
 #include "simulation/SimulatedDistributedNotificationCenter.hpp"
 #include "simulation/SimulatedDock.hpp"

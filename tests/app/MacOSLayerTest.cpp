@@ -2,7 +2,7 @@
 // sources: the bundle's Info.plist template, and the boundary between the portable core and the
 // Objective-C++ adapters.
 
-#include "simulation/LibplistPropertyListDecoder.hpp"
+#include "base/libplist/LibplistPropertyListDecoder.hpp"
 
 #include <filesystem>
 #include <fstream>

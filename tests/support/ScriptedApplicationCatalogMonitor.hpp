@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shortcuts/ApplicationCatalogMonitoring.hpp"
+#include "shortcuts/catalog/ApplicationCatalogMonitoring.hpp"
 
 namespace quenby {
 

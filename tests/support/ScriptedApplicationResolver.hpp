@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shortcuts/ApplicationResolving.hpp"
+#include "shortcuts/catalog/ApplicationResolving.hpp"
 
 #include <map>
 #include <string>

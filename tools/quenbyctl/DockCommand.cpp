@@ -3,14 +3,14 @@
 #include "base/DistributedNotificationObserving.hpp"
 #include "base/ManualScheduler.hpp"
 #include "base/PosixFileSystem.hpp"
-#include "shortcuts/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/DockNumberMappingProvider.hpp"
-#include "shortcuts/PropertyListFileDockPreferences.hpp"
-#include "shortcuts/SystemApplicationBundleFileInspector.hpp"
-#include "shortcuts/WorkspaceApplicationResolver.hpp"
+#include "base/libplist/LibplistPropertyListDecoder.hpp"
+#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
+#include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
+#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
+#include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
+#include "shortcuts/dock/DockNumberMappingProvider.hpp"
+#include "shortcuts/dock/PropertyListFileDockPreferences.hpp"
 #include "simulation/DockPositionJSON.hpp"
-#include "simulation/LibplistPropertyListDecoder.hpp"
 
 #include <filesystem>
 #include <memory>

@@ -13,11 +13,11 @@
 #include "base/macos/OSLogLogger.hpp"
 #include "base/macos/UserDefaultsKeyValueStore.hpp"
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
-#include "shortcuts/SystemDockPreferenceReader.hpp"
-#include "shortcuts/macos/SystemApplicationSpotlightQuery.hpp"
-#include "shortcuts/macos/SystemApplicationWorkspaceNotificationObserver.hpp"
-#include "shortcuts/macos/SystemDockPreferences.hpp"
-#include "shortcuts/macos/WorkspaceApplicationLocator.hpp"
+#include "shortcuts/catalog/macos/SystemApplicationSpotlightQuery.hpp"
+#include "shortcuts/catalog/macos/SystemApplicationWorkspaceNotificationObserver.hpp"
+#include "shortcuts/catalog/macos/WorkspaceApplicationLocator.hpp"
+#include "shortcuts/dock/SystemDockPreferenceReader.hpp"
+#include "shortcuts/dock/macos/SystemDockPreferences.hpp"
 
 #include <memory>
 #include <utility>

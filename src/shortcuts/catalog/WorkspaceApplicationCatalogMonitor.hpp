@@ -1,0 +1,57 @@
+#pragma once
+
+#include "base/LifetimeGuard.hpp"
+#include "base/MainScheduler.hpp"
+#include "shortcuts/catalog/ApplicationCatalogDistributedObserving.hpp"
+#include "shortcuts/catalog/ApplicationCatalogMonitoring.hpp"
+#include "shortcuts/catalog/ApplicationCatalogRefreshing.hpp"
+#include "shortcuts/catalog/ApplicationSpotlightQuerying.hpp"
+#include "shortcuts/catalog/ApplicationWorkspaceNotificationObserving.hpp"
+
+#include <optional>
+
+namespace quenby {
+
+/// Keeps the application catalog fresh while running: it refreshes on Spotlight's results (with
+/// them as candidates), on workspace and Launch Services notifications, and every half second,
+/// and calls `onChange` once per new catalog revision however many triggers led to it.
+///
+/// Main thread only. Every collaborator must outlive the monitor; callbacks handed to them hold
+/// the monitor weakly.
+class WorkspaceApplicationCatalogMonitor final : public ApplicationCatalogMonitoring {
+public:
+  static constexpr Duration kPollInterval = std::chrono::milliseconds(500);
+
+  WorkspaceApplicationCatalogMonitor(ApplicationCatalogRefreshing& catalog,
+                                     ApplicationSpotlightQuerying& query,
+                                     ApplicationWorkspaceNotificationObserving& workspaceCenter,
+                                     ApplicationCatalogDistributedObserving& distributedObserver,
+                                     MainScheduler& scheduler);
+  WorkspaceApplicationCatalogMonitor(const WorkspaceApplicationCatalogMonitor&) = delete;
+  WorkspaceApplicationCatalogMonitor& operator=(const WorkspaceApplicationCatalogMonitor&) = delete;
+  ~WorkspaceApplicationCatalogMonitor() override;
+
+  void start() override;
+  void stop() override;
+  void setOnChange(std::function<void()> handler) override { onChange_ = std::move(handler); }
+
+  [[nodiscard]] bool isRunning() const { return isRunning_; }
+
+private:
+  void refresh(const ApplicationCandidateMap* spotlightCandidates);
+
+  std::function<void()> onChange_;
+  ApplicationCatalogRefreshing& catalog_;
+  ApplicationSpotlightQuerying& query_;
+  ApplicationWorkspaceNotificationObserving& workspaceCenter_;
+  ApplicationCatalogDistributedObserving& distributedObserver_;
+  MainScheduler& scheduler_;
+  ObservationToken workspaceToken_;
+  ObservationToken distributedToken_;
+  ObservationToken pollToken_;
+  std::optional<std::uint64_t> deliveredRevision_;
+  bool isRunning_ = false;
+  LifetimeGuard guard_;
+};
+
+} // namespace quenby

@@ -1,0 +1,172 @@
+#include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
+
+#include "base/PosixFileSystem.hpp"
+#include "base/libplist/LibplistPropertyListDecoder.hpp"
+#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
+#include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
+#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
+#include "support/ApplicationBundleFixture.hpp"
+
+#include <gtest/gtest.h>
+
+namespace quenby {
+namespace {
+
+class CountingPropertyListDecoder final : public PropertyListDecoding {
+public:
+  [[nodiscard]] Expected<PropertyListValue, PropertyListDecodingError>
+  decode(std::span<const std::uint8_t> bytes) const override {
+    ++decodes;
+    return decoder_.decode(bytes);
+  }
+  mutable int decodes = 0;
+
+private:
+  LibplistPropertyListDecoder decoder_;
+};
+
+class WorkspaceApplicationResolverTest : public ::testing::Test {
+protected:
+  FileURL create(std::string_view path, std::string_view bundleIdentifier) {
+    const FileURL url = bundles.createBundle(path, bundleIdentifier, "Editor");
+    locator.rescan();
+    return url;
+  }
+
+  /// Decodes caused by `action`.
+  template <typename F> int decodesDuring(F action) {
+    const int before = decoder.decodes;
+    action();
+    return decoder.decodes - before;
+  }
+
+  static constexpr const char* kEditor = "com.example.editor";
+
+  ApplicationBundleFixture bundles;
+  PosixFileSystem fileSystem;
+  SystemApplicationBundleFileInspector inspector{fileSystem};
+  CountingPropertyListDecoder decoder;
+  BundleApplicationMetadataReader reader{inspector, decoder};
+  DirectoryScanningApplicationLocator locator{fileSystem, reader, bundles.root()};
+  WorkspaceApplicationResolver resolver{locator, reader};
+};
+
+TEST_F(WorkspaceApplicationResolverTest, LastKnownCopyWinsAndOtherwiseSeveralCopiesAreAmbiguous) {
+  const FileURL installed = create("Applications/Editor.app", kEditor);
+  const FileURL backup = create("Backup/Editor.app", kEditor);
+  const FileURL impostor = create("Applications/Impostor.app", "com.example.other");
+
+  // Answers come from the catalog only, which knows nothing before its first refresh.
+  EXPECT_EQ(resolver.resolve(kEditor, installed), ApplicationResolution::notFound());
+  resolver.refreshCatalog(nullptr);
+
+  EXPECT_EQ(resolver.resolve(kEditor, installed), ApplicationResolution::resolved(installed));
+  EXPECT_EQ(resolver.resolve(kEditor, backup), ApplicationResolution::resolved(backup));
+  // A copy whose Info.plist names another application is not counted, even at the last-known
+  // location.
+  EXPECT_EQ(resolver.resolve(kEditor, impostor),
+            ApplicationResolution::ambiguous({installed, backup}));
+  EXPECT_EQ(resolver.resolve(kEditor, bundles.url("Old/Editor.app")),
+            ApplicationResolution::ambiguous({installed, backup}));
+  resolver.refreshCatalog(nullptr);
+  EXPECT_EQ(resolver.resolve(kEditor, impostor),
+            ApplicationResolution::ambiguous({installed, backup}));
+
+  // Identifiers compare exactly.
+  EXPECT_EQ(resolver.resolve("com.example.Editor", installed), ApplicationResolution::notFound());
+  resolver.refreshCatalog(nullptr);
+  EXPECT_EQ(resolver.resolve("com.example.Editor", installed), ApplicationResolution::notFound());
+
+  // Spotlight's candidates stand in for the locator's for the identifiers it reports.
+  const FileURL viewer = bundles.createBundle("Downloads/Viewer.app", "com.example.viewer", "V");
+  const FileURL lastKnownViewer = bundles.url("Old/Viewer.app");
+  (void)resolver.resolve("com.example.viewer", lastKnownViewer);
+  resolver.refreshCatalog(nullptr);
+  EXPECT_EQ(resolver.resolve("com.example.viewer", lastKnownViewer),
+            ApplicationResolution::notFound());
+  const ApplicationCandidateMap spotlight{{"com.example.viewer", {viewer}}};
+  resolver.refreshCatalog(&spotlight);
+  EXPECT_EQ(resolver.resolve("com.example.viewer", lastKnownViewer),
+            ApplicationResolution::resolved(viewer));
+  EXPECT_EQ(resolver.resolve(kEditor, installed), ApplicationResolution::resolved(installed));
+}
+
+TEST_F(WorkspaceApplicationResolverTest, MovedCopyResolvesAtItsNewPlaceAndRaisesTheRevisionOnce) {
+  const FileURL original = create("Applications/Editor.app", kEditor);
+  (void)resolver.resolve(kEditor, original);
+  resolver.refreshCatalog(nullptr);
+  const std::uint64_t revision = resolver.catalogRevision();
+
+  bundles.move("Applications/Editor.app", "Tools/Editor.app");
+  locator.rescan();
+  resolver.refreshCatalog(nullptr);
+  EXPECT_EQ(resolver.resolve(kEditor, original),
+            ApplicationResolution::resolved(bundles.url("Tools/Editor.app")));
+  EXPECT_EQ(resolver.catalogRevision(), revision + 1);
+  for (int i = 0; i < 3; ++i) {
+    resolver.refreshCatalog(nullptr);
+  }
+  EXPECT_EQ(resolver.catalogRevision(), revision + 1);
+
+  bundles.remove("Tools/Editor.app");
+  locator.rescan();
+  resolver.refreshCatalog(nullptr);
+  EXPECT_EQ(resolver.resolve(kEditor, original), ApplicationResolution::notFound());
+  EXPECT_EQ(resolver.catalogRevision(), revision + 2);
+}
+
+TEST_F(WorkspaceApplicationResolverTest, UnchangedBundlesAreNeverDecodedAgain) {
+  const std::vector<std::string> identifiers{"com.example.a", "com.example.b", "com.example.c"};
+  for (const auto& identifier : identifiers) {
+    (void)resolver.resolve(identifier, create("Applications/" + identifier + ".app", identifier));
+  }
+  // One read per bundle, although the read adds the icon to what the fingerprint covers.
+  EXPECT_EQ(decodesDuring([&] { resolver.refreshCatalog(nullptr); }), 3);
+  const std::uint64_t revision = resolver.catalogRevision();
+  EXPECT_EQ(decodesDuring([&] {
+              for (int i = 0; i < 20; ++i) {
+                resolver.refreshCatalog(nullptr);
+              }
+            }),
+            0);
+  EXPECT_EQ(resolver.catalogRevision(), revision);
+}
+
+TEST_F(WorkspaceApplicationResolverTest, AChangedFileIsReadOnceAndChangesTheCatalog) {
+  const FileURL url = create("Applications/Editor.app", kEditor);
+  (void)resolver.resolve(kEditor, url);
+  resolver.refreshCatalog(nullptr);
+
+  const std::string icon =
+      "Applications/Editor.app/Contents/Resources/" + std::string(bundles.kIconFileName);
+  const std::vector<std::pair<std::string, std::function<void()>>> changes{
+      {"touched Info.plist", [&] { bundles.touch("Applications/Editor.app/Contents/Info.plist"); }},
+      {"renamed application",
+       [&] {
+         bundles.writeInfoPropertyList("Applications/Editor.app",
+                                       PropertyListValue::Dictionary{
+                                           {"CFBundleIdentifier", kEditor},
+                                           {"CFBundleDisplayName", "Editor Pro"},
+                                           {"CFBundleIconFile", "AppIcon"},
+                                       });
+       }},
+      {"replaced icon", [&] { bundles.writeFile(icon, "a larger icon"); }},
+      {"added asset catalog",
+       [&] { bundles.writeFile("Applications/Editor.app/Contents/Resources/Assets.car", "car"); }},
+  };
+  for (const auto& [name, change] : changes) {
+    const std::string before =
+        resolver.verifiedApplications(kEditor).at(0).metadata.catalogFingerprint;
+    const std::uint64_t revision = resolver.catalogRevision();
+    change();
+    EXPECT_EQ(decodesDuring([&] { resolver.refreshCatalog(nullptr); }), 1) << name;
+    EXPECT_EQ(decodesDuring([&] { resolver.refreshCatalog(nullptr); }), 0) << name;
+    EXPECT_EQ(resolver.catalogRevision(), revision + 1) << name;
+    EXPECT_NE(resolver.verifiedApplications(kEditor).at(0).metadata.catalogFingerprint, before)
+        << name;
+  }
+  EXPECT_EQ(resolver.verifiedApplications(kEditor).at(0).metadata.displayName, "Editor Pro");
+}
+
+} // namespace
+} // namespace quenby
