@@ -20,8 +20,8 @@ struct AppCoordinatorLifecycle {
   std::function<void(const KeyboardMappingSnapshot&)> preloadIcons = [](const auto&) {};
   Step prewarmShortcutAnimation = [] {};
   Step startCatalogMonitoring = [] {};
-  Step startOptionDigits = [] {};
   Step startRunningApplications = [] {};
+  Step startOptionDigits = [] {};
   Step restoreHUD = [] {};
   Step synchronizeMenu = [] {};
   Step showSettings = [] {};

@@ -210,7 +210,7 @@ void ScenarioRunner::prefLine(const Arguments& arguments) {
   if (!runtime) {
     throw ScenarioLineError{"pref needs a launched application"};
   }
-  const auto changed = runtime->appPreferences().setRaw(arguments[1], arguments[2]);
+  const auto changed = runtime->data().preferences().setRaw(arguments[1], arguments[2]);
   if (!changed) {
     throw ScenarioLineError{changed.error()};
   }
@@ -226,12 +226,12 @@ void ScenarioRunner::stateLine(const Arguments& arguments) {
   }
   if (const auto runtime = runningRuntime()) {
     auto preferences = nlohmann::ordered_json::object();
-    for (const auto& [name, value] : runtime->appPreferences().rawValues()) {
+    for (const auto& [name, value] : runtime->data().preferences().rawValues()) {
       preferences[name] = propertyListJSON(value);
     }
     fields["preferences"] = std::move(preferences);
     auto dock = nlohmann::ordered_json::array();
-    const auto& entries = runtime->dockNumberProvider().current().entries;
+    const auto& entries = runtime->shortcuts().dockNumberProvider().current().entries;
     for (int position = NumberMappingEntries::kFirstPosition;
          position <= NumberMappingEntries::kLastPosition; ++position) {
       dock.push_back(dockPositionJSON(position, entries.at(position), [this](const FileURL& url) {
@@ -239,8 +239,8 @@ void ScenarioRunner::stateLine(const Arguments& arguments) {
       }));
     }
     fields["dock"] = std::move(dock);
-    fields["dockRevision"] = runtime->dockNumberProvider().current().revision;
-    fields["catalogRevision"] = runtime->resolver().catalogRevision();
+    fields["dockRevision"] = runtime->shortcuts().dockNumberProvider().current().revision;
+    fields["catalogRevision"] = runtime->shortcuts().resolver().catalogRevision();
   } else {
     fields["preferences"] = nullptr;
   }

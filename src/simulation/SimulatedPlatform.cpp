@@ -7,10 +7,9 @@
 #include "simulation/SimulatedWindowPlacementSnapshotProvider.hpp"
 
 namespace quenby {
+namespace {
 
-PlatformServices makeSimulatedPlatformServices(SimulatedWorld& world,
-                                               const ScenarioEventRecorder& recorder) {
-  SimulatedDock& dock = world.dock();
+BasePlatform simulatedBase(SimulatedWorld& world, const ScenarioEventRecorder& recorder) {
   return {
       .userDefaults = std::make_shared<RecordingKeyValueStore>(world.defaults(), recorder),
       .scheduler = world.scheduler(),
@@ -19,10 +18,13 @@ PlatformServices makeSimulatedPlatformServices(SimulatedWorld& world,
       .logger = std::make_shared<SimulatedLogger>(recorder),
       .fileSystem = world.fileSystem(),
       .propertyListDecoder = world.decoder(),
-      .activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
-      .windowPlacementSnapshotProvider =
-          std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
       .distributedNotificationCenter = world.notificationCenter(),
+  };
+}
+
+ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world) {
+  SimulatedDock& dock = world.dock();
+  return {
       .dockPreferenceReader = std::make_shared<SystemDockPreferenceReader>(
           [&dock] { return dock.synchronize(); }, [&dock] { return dock.copyPersistentApps(); }),
       .applicationLocator = world.launchServices(),
@@ -30,7 +32,20 @@ PlatformServices makeSimulatedPlatformServices(SimulatedWorld& world,
       // are what the simulated Mac offers the catalog.
       .spotlightQuery = std::make_shared<InertApplicationSpotlightQuery>(),
       .workspaceNotifications = std::make_shared<InertApplicationWorkspaceNotificationObserver>(),
-      .failurePanelFactory = std::make_shared<SimulatedFailurePanelFactory>(recorder),
+  };
+}
+
+} // namespace
+
+PlatformServices makeSimulatedPlatformServices(SimulatedWorld& world,
+                                               const ScenarioEventRecorder& recorder) {
+  return {
+      .base = simulatedBase(world, recorder),
+      .app = {.activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
+              .failurePanelFactory = std::make_shared<SimulatedFailurePanelFactory>(recorder)},
+      .shortcuts = simulatedShortcuts(world),
+      .data = {.windowPlacementSnapshotProvider =
+                   std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world)},
   };
 }
 

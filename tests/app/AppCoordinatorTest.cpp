@@ -3,6 +3,7 @@
 #include "app/AppCoordinatorFactory.hpp"
 #include "app/AppLaunchController.hpp"
 #include "base/InMemoryKeyValueStore.hpp"
+#include "base/ManualScheduler.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -193,7 +194,7 @@ TEST(AppLaunchControllerTest, UnderATestHostStartsTheCoordinatorWithoutAStatusIt
 
 TEST(AppRuntimeTest, RealGraphStartsAndStopsOnInertPlatform) {
   auto services = PlatformServices::inert();
-  const auto defaults = services.userDefaults;
+  const auto defaults = services.base.userDefaults;
   std::weak_ptr<AppRuntime> runtime;
   auto coordinator = makeAppCoordinator(std::move(services), {}, &runtime);
   ASSERT_FALSE(runtime.expired());
@@ -201,6 +202,27 @@ TEST(AppRuntimeTest, RealGraphStartsAndStopsOnInertPlatform) {
   EXPECT_EQ(defaults->string("settings.hudSize"), "standard"); // built once, migrated
   coordinator->stop();
   EXPECT_TRUE(runtime.expired()); // stop frees the whole graph
+}
+
+// While the HUD is measured nothing may start the catalog monitor, the Dock provider included:
+// its poll is the one timer missing from an otherwise identical launch.
+TEST(AppRuntimeTest, HUDMeasurementArmsNoCatalogPoll) {
+  const auto timersAfterStart = [](const Environment& environment) {
+    auto services = PlatformServices::inert();
+    const auto scheduler = std::make_shared<ManualScheduler>();
+    services.base.scheduler = scheduler;
+    services.base.clock = scheduler;
+    auto coordinator = makeAppCoordinator(std::move(services), environment);
+    coordinator->start();
+    scheduler->runPending();
+    const std::size_t timers = scheduler->pendingCount();
+    coordinator->stop();
+    EXPECT_EQ(scheduler->pendingCount(), 0U) << "stop leaves nothing scheduled";
+    return timers;
+  };
+  const std::size_t normal = timersAfterStart({});
+  const std::size_t measured = timersAfterStart({{"QUENBY_RUN_HUD_PERFORMANCE_TESTS", "1"}});
+  EXPECT_EQ(measured + 1, normal);
 }
 
 } // namespace

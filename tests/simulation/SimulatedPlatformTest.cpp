@@ -29,8 +29,8 @@ TEST(SimulatedPlatformTest, AFailureReachesThePanelOnceAfterItsMarkerIsSaved) {
         makeAppCoordinator(makeSimulatedPlatformServices(world, recorder), {}, &runtime);
     coordinator->start();
     sink.lines.clear();
-    runtime.lock()->configurationReporter().report(failure);
-    runtime.lock()->configurationReporter().report(failure);
+    runtime.lock()->shell().configurationReporter().report(failure);
+    runtime.lock()->shell().configurationReporter().report(failure);
     if (process == 0) {
       ASSERT_EQ(sink.lines.size(), 2U);
       EXPECT_EQ(sink.lines[0], R"({"t":0,"event":"write","key":"configurationFailure.reported.)"

@@ -1,4 +1,4 @@
-#include "app/PlatformServices.hpp"
+#include "base/BasePlatform.hpp"
 
 #include "base/InMemoryKeyValueStore.hpp"
 #include "base/ManualScheduler.hpp"
@@ -6,7 +6,7 @@
 
 namespace quenby {
 
-PlatformServices PlatformServices::inert() {
+BasePlatform BasePlatform::inert() {
   auto scheduler = std::make_shared<ManualScheduler>();
   return {
       .userDefaults = std::make_shared<InMemoryKeyValueStore>(),
@@ -16,14 +16,7 @@ PlatformServices PlatformServices::inert() {
       .logger = std::make_shared<NullLogger>(),
       .fileSystem = std::make_shared<PosixFileSystem>(),
       .propertyListDecoder = std::make_shared<InertPropertyListDecoder>(),
-      .activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
-      .windowPlacementSnapshotProvider = std::make_shared<InertWindowPlacementSnapshotProvider>(),
       .distributedNotificationCenter = std::make_shared<InertDistributedNotificationCenter>(),
-      .dockPreferenceReader = std::make_shared<InertDockPreferenceReader>(),
-      .applicationLocator = std::make_shared<InertInstalledApplicationLocator>(),
-      .spotlightQuery = std::make_shared<InertApplicationSpotlightQuery>(),
-      .workspaceNotifications = std::make_shared<InertApplicationWorkspaceNotificationObserver>(),
-      .failurePanelFactory = std::make_shared<InertConfigurationFailurePanelFactory>(),
   };
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "shortcuts/ShortcutsPlatform.hpp"
+
+namespace quenby {
+
+/// The Dock's preferences through CoreFoundation, Launch Services, Spotlight and the workspace's
+/// notifications. Call on the main thread.
+[[nodiscard]] ShortcutsPlatform makeLiveShortcutsPlatform();
+
+} // namespace quenby

@@ -1,0 +1,28 @@
+// Builds the shortcuts' system adapters. Main thread only; each adapter is shared with the
+// runtime graph and lives as long as it does. The Spotlight query starts only when the catalog
+// monitor starts it.
+
+#include "shortcuts/macos/LiveShortcutsPlatform.hpp"
+
+#include "shortcuts/catalog/macos/SystemApplicationSpotlightQuery.hpp"
+#include "shortcuts/catalog/macos/SystemApplicationWorkspaceNotificationObserver.hpp"
+#include "shortcuts/catalog/macos/WorkspaceApplicationLocator.hpp"
+#include "shortcuts/dock/SystemDockPreferenceReader.hpp"
+#include "shortcuts/dock/macos/SystemDockPreferences.hpp"
+
+#include <utility>
+
+namespace quenby {
+
+ShortcutsPlatform makeLiveShortcutsPlatform() {
+  SystemDockPreferences dock = makeSystemDockPreferences();
+  return {
+      .dockPreferenceReader = std::make_shared<SystemDockPreferenceReader>(
+          std::move(dock.synchronize), std::move(dock.copyPersistentApps)),
+      .applicationLocator = std::make_shared<WorkspaceApplicationLocator>(),
+      .spotlightQuery = std::make_shared<SystemApplicationSpotlightQuery>(),
+      .workspaceNotifications = std::make_shared<SystemApplicationWorkspaceNotificationObserver>(),
+  };
+}
+
+} // namespace quenby
