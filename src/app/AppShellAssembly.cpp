@@ -4,8 +4,8 @@ namespace quenby {
 
 AppShellAssembly::AppShellAssembly(const BasePlatform& base, const AppShellPlatform& platform)
     : platform_(platform), presenter_(*platform.failurePanelFactory),
-      reporter_(*base.userDefaults, &presenter_), shortcutDiagnosticsHealth_(&shortcutDiagnostics_) {
-}
+      reporter_(*base.userDefaults, &presenter_),
+      shortcutDiagnosticsHealth_(&shortcutDiagnostics_) {}
 
 AppShellAssembly::~AppShellAssembly() {
   // Nothing may reach the presenter or the diagnostics while the shell comes down.

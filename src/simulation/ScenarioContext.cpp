@@ -1,0 +1,78 @@
+#include "simulation/ScenarioContext.hpp"
+
+#include "app/AppCoordinatorFactory.hpp"
+#include "app/AppLaunchController.hpp"
+#include "simulation/ScenarioArguments.hpp"
+#include "simulation/SimulatedPlatform.hpp"
+
+namespace quenby {
+
+ScenarioContext::ScenarioContext(ScenarioEventSink& sink, std::string scriptDirectory)
+    : recorder_(sink, *world_.scheduler()), scriptDirectory_(std::move(scriptDirectory)) {}
+
+ScenarioContext::~ScenarioContext() = default;
+
+void ScenarioContext::launch() {
+  if (application_) {
+    throw ScenarioLineError{"the application is already running"};
+  }
+  const Environment environment = world_.environment();
+  application_ = std::make_unique<AppLaunchController>(
+      AppLaunchContext::fromEnvironment(environment),
+      [this, environment]() -> std::unique_ptr<AppCoordinating> {
+        auto coordinator = makeAppCoordinator(makeSimulatedPlatformServices(world_, recorder_),
+                                              environment, &runtime_);
+        coordinator_ = coordinator.get();
+        return coordinator;
+      },
+      [] { return std::make_unique<InertStatusItemPresenter>(); });
+  hasTerminated_ = false;
+  application_->applicationDidFinishLaunching();
+  recorder_.emit("launched", {{"menuBarExtra", application_->hasStatusItem()}});
+}
+
+void ScenarioContext::terminate() {
+  if (!application_) {
+    return; // nothing running: quitting twice does nothing
+  }
+  application_->applicationWillTerminate();
+  application_.reset();
+  coordinator_ = nullptr;
+  hasTerminated_ = true;
+  recorder_.emit("terminated");
+}
+
+std::string_view ScenarioContext::coordinatorState() const {
+  if (coordinator_ != nullptr) {
+    return AppCoordinator::stateName(coordinator_->state());
+  }
+  return hasTerminated_ ? "stopped" : "notLaunched";
+}
+
+std::shared_ptr<AppRuntime> ScenarioContext::runtime() const {
+  return application_ ? runtime_.lock() : nullptr;
+}
+
+std::shared_ptr<AppRuntime> ScenarioContext::requireRuntime(std::string_view line) const {
+  auto running = runtime();
+  if (!running) {
+    throw ScenarioLineError{std::string(line) + " needs a launched application"};
+  }
+  return running;
+}
+
+FileURL ScenarioContext::diskURL(const std::string& scriptPath) const {
+  if (scriptPath.empty() || scriptPath.front() != '/') {
+    throw ScenarioLineError{"\"" + scriptPath + "\" is not an absolute path"};
+  }
+  return FileURL::fromPath(world_.hostPath(scriptPath));
+}
+
+std::string ScenarioContext::resolveScriptFile(const std::string& name) const {
+  if (name.empty() || name.front() == '/') {
+    return name;
+  }
+  return scriptDirectory_ + "/" + name;
+}
+
+} // namespace quenby
