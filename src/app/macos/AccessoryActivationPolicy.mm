@@ -1,4 +1,5 @@
-// The shared application's activation policy. Main thread only (AppKit); no state.
+// The shared application's activation policy. Main thread only (AppKit); no state. Once called,
+// the program has no Dock icon and no menu bar of its own; calling it again changes nothing.
 
 #include "app/macos/AccessoryActivationPolicy.hpp"
 

@@ -1,5 +1,6 @@
 // The main bundle's string tables. Any thread; holds no state, the main bundle lives as long as
-// the process.
+// the process. Guarantees a readable text: a key missing from every table, or a text that cannot
+// cross into Foundation, yields the English default, never the key.
 
 #include "base/macos/BundleLocalizer.hpp"
 

@@ -1,5 +1,6 @@
 // CFPropertyListCreateWithData behind the core's decoder. Any thread; no state. The decoded
-// object (+1) and the error (+1) are handed to ARC at once, so every path releases them.
+// object (+1) and the error (+1) are handed to ARC at once, so every path releases them. Any
+// byte sequence yields a value or a typed error; nothing is thrown.
 
 #include "base/macos/CoreFoundationPropertyListDecoder.hpp"
 

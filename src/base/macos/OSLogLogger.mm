@@ -1,5 +1,7 @@
 // os_log behind the core's logger. Main thread only (the category cache has no lock). The log
-// handles are kept for the logger's lifetime; os_log itself never frees them anyway.
+// handles are kept for the logger's lifetime; os_log itself never frees them anyway. Messages are
+// logged public: they carry identifiers and paths the user needs to read in Console, never typed
+// text.
 
 #include "base/macos/OSLogLogger.hpp"
 

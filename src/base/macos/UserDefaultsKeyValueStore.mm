@@ -1,6 +1,8 @@
 // The standard user defaults behind the core's key-value store. Main thread only (the store is
 // used from the one feature thread; NSUserDefaults itself would allow more). Holds no state: every
-// call goes to +standardUserDefaults, which lives as long as the process.
+// call goes to +standardUserDefaults, which lives as long as the process. A key or value that
+// cannot cross into Foundation (text that is not UTF-8) reads as absent and is not written; the
+// core reads back whatever it must be sure was stored.
 
 #include "base/macos/UserDefaultsKeyValueStore.hpp"
 

@@ -1,4 +1,6 @@
 // NSScreen and NSEvent read at the moment a window is placed. Main thread only; no state.
+// Guarantees a snapshot even with no screen attached (no frames, no main frame): the core's
+// placement rule decides what that means, in AppKit's bottom-left coordinates as given.
 
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
 
