@@ -10,8 +10,7 @@ CF_EXTERN_C_BEGIN
 // Copy rule: the value is owned by the caller. Searches the application's whole search list
 // (forced values, current user, any user, …), as the application itself would.
 CF_RETURNS_RETAINED
-    CFPropertyListRef _Nullable CFPreferencesCopyAppValue(CFStringRef key,
-                                                          CFStringRef applicationID);
+CFPropertyListRef _Nullable CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applicationID);
 // Writes pending changes and reads what other processes wrote since the last call.
 Boolean CFPreferencesAppSynchronize(CFStringRef applicationID);
 
