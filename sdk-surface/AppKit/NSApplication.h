@@ -31,6 +31,8 @@ NS_ENUM(NSInteger, NSApplicationActivationPolicy){
 @property(nullable, strong) NSMenu* mainMenu;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy;
 - (void)activateIgnoringOtherApps:(BOOL)flag;
+// A request: the system may decline to activate (cooperative activation).
+- (void)activate __attribute__((availability(macos, introduced = 14.0)));
 - (void)run;
 - (void)terminate:(nullable id)sender;
 @end

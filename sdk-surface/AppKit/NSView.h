@@ -4,6 +4,13 @@
 
 #import <AppKit/AppKitDefines.h>
 #import <AppKit/NSResponder.h>
+#import <Foundation/NSGeometry.h>
+
+NS_ASSUME_NONNULL_BEGIN
 
 @interface NSView : NSResponder
+// The smallest size that satisfies the view's constraints (from constraint-based layout).
+@property(readonly) NSSize fittingSize;
 @end
+
+NS_ASSUME_NONNULL_END

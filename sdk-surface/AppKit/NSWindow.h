@@ -16,6 +16,11 @@ typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskClosable = 1 << 1,
 };
 
+typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
+  NSWindowCollectionBehaviorMoveToActiveSpace = 1 << 1,
+  NSWindowCollectionBehaviorFullScreenAuxiliary = 1 << 8,
+};
+
 typedef NSInteger NSWindowLevel;
 
 @interface NSWindow : NSResponder
@@ -27,8 +32,13 @@ typedef NSInteger NSWindowLevel;
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property NSWindowLevel level;
 @property(nullable, strong) __kindof NSView* contentView;
+@property BOOL hidesOnDeactivate;
+@property NSWindowCollectionBehavior collectionBehavior;
+- (void)setContentSize:(NSSize)size;
 - (void)center;
 - (void)makeKeyAndOrderFront:(nullable id)sender;
+// Orders the window front even when its application is not active.
+- (void)orderFrontRegardless;
 - (void)close;
 @end
 

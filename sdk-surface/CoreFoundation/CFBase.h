@@ -38,6 +38,8 @@ typedef const struct CF_BRIDGED_TYPE(id) __CFAllocator* CFAllocatorRef;
 CF_EXPORT const CFAllocatorRef _Nullable kCFAllocatorDefault;
 
 CFTypeID CFGetTypeID(CFTypeRef cf);
+// Equality as the two objects' type defines it: element by element for collections.
+Boolean CFEqual(CFTypeRef cf1, CFTypeRef cf2);
 
 CF_EXTERN_C_END
 #pragma clang assume_nonnull end

@@ -7,16 +7,12 @@
 #pragma clang assume_nonnull begin
 CF_EXTERN_C_BEGIN
 
-CF_EXPORT const CFStringRef kCFPreferencesCurrentUser;
-CF_EXPORT const CFStringRef kCFPreferencesAnyHost;
-
-// Copy rule: the value is owned by the caller.
-CF_RETURNS_RETAINED CFPropertyListRef _Nullable CFPreferencesCopyValue(CFStringRef key,
-                                                                       CFStringRef applicationID,
-                                                                       CFStringRef userName,
-                                                                       CFStringRef hostName);
-Boolean CFPreferencesSynchronize(CFStringRef applicationID, CFStringRef userName,
-                                 CFStringRef hostName);
+// Copy rule: the value is owned by the caller. Searches the application's whole search list
+// (forced values, current user, any user, …), as the application itself would.
+CF_RETURNS_RETAINED
+CFPropertyListRef _Nullable CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applicationID);
+// Writes pending changes and reads what other processes wrote since the last call.
+Boolean CFPreferencesAppSynchronize(CFStringRef applicationID);
 
 CF_EXTERN_C_END
 #pragma clang assume_nonnull end

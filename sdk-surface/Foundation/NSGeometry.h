@@ -10,6 +10,7 @@ NS_ASSUME_NONNULL_BEGIN
 // 64-bit platforms: the AppKit geometry types are the CoreGraphics ones.
 typedef CGPoint NSPoint;
 typedef CGRect NSRect;
+typedef CGSize NSSize;
 
 typedef struct NSEdgeInsets {
   CGFloat top;

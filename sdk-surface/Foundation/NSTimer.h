@@ -13,6 +13,8 @@ NS_ASSUME_NONNULL_BEGIN
                           repeats:(BOOL)repeats
                             block:(void (^)(NSTimer* timer))block;
 - (void)invalidate;
+// How late the timer may fire; a repeating timer's schedule does not drift with it.
+@property NSTimeInterval tolerance;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -9,12 +9,13 @@ namespace quenby {
 /// the title (headline font), the message (callout font) and the failure id (caption font,
 /// monospaced, secondary colour).
 struct ConfigurationFailurePanelLayout {
-  /// The panel's content rectangle; the panel is centred on screen after creation.
+  /// The panel's smallest content rectangle. Long texts make it taller, never wider; the panel
+  /// is centred on screen once its final size is known.
   static constexpr Rect contentRect{0, 0, 360, 150};
   /// Space around the column of texts, on every edge.
   static constexpr double padding = 14;
-  /// The width the texts wrap to.
-  static constexpr double textWidth = 340;
+  /// The width the texts wrap to: whatever the padding leaves of the content width.
+  static constexpr double textWidth = contentRect.width - 2 * padding;
   /// The floating window level, so the panel stays above ordinary windows of other applications.
   static constexpr int windowLevel = 3;
 };

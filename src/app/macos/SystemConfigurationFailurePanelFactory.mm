@@ -1,12 +1,22 @@
-// The configuration-failure panel in AppKit. Main thread only. The returned object holds the
-// panel strongly (the panel is not released when closed) and closes it when destroyed, so a panel
-// never outlives its owner; closing twice, or after the user did, does nothing.
+// The configuration-failure panel in AppKit.
+//
+// Threading: main thread only.
+//
+// Lifetime: the returned object holds the panel strongly (the panel is not released when
+// closed) and closes it when destroyed, so a panel never outlives its owner; closing twice, or
+// after the user did, does nothing.
+//
+// Guarantee: the panel stays on screen until it is closed. A failure is reported once per id, and
+// an accessory application has no Dock icon to bring a hidden panel back with, so the panel does
+// not hide when the application is deactivated, comes to the active Space (also over a full-screen
+// application), and is ordered in front even when the system declines to activate us.
 
 #include "app/macos/SystemConfigurationFailurePanelFactory.hpp"
 
 #import "base/macos/FoundationPropertyList.h"
 
 #import <AppKit/AppKit.h>
+#include <algorithm>
 
 namespace quenby {
 
@@ -63,19 +73,35 @@ SystemConfigurationFailurePanelFactory::makePanel(const ConfigurationFailure& fa
   column.edgeInsets =
       NSEdgeInsetsMake(Layout::padding, Layout::padding, Layout::padding, Layout::padding);
 
-  const Rect& frame = Layout::contentRect;
+  // The texts wrap at the layout's width, so the column's fitting size is what they need; the
+  // panel only grows from its smallest size, and is centred on that final size.
+  const Rect& smallest = Layout::contentRect;
+  const NSSize fitting = column.fittingSize;
+  const NSRect contentRect =
+      NSMakeRect(smallest.x, smallest.y, std::max<CGFloat>(smallest.width, fitting.width),
+                 std::max<CGFloat>(smallest.height, fitting.height));
   NSPanel* panel =
-      [[NSPanel alloc] initWithContentRect:NSMakeRect(frame.x, frame.y, frame.width, frame.height)
+      [[NSPanel alloc] initWithContentRect:contentRect
                                  styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable
                                    backing:NSBackingStoreBuffered
                                      defer:NO];
   panel.title = panelText(failure.title);
   panel.releasedWhenClosed = NO;
+  panel.hidesOnDeactivate = NO;
   panel.level = Layout::windowLevel;
+  panel.collectionBehavior =
+      NSWindowCollectionBehaviorMoveToActiveSpace | NSWindowCollectionBehaviorFullScreenAuxiliary;
   panel.contentView = column;
+  [panel setContentSize:contentRect.size];
   [panel center];
+  if (@available(macOS 14, *)) {
+    [NSApp activate];
+  } else {
+    [NSApp activateIgnoringOtherApps:YES];
+  }
   [panel makeKeyAndOrderFront:nil];
-  [NSApp activateIgnoringOtherApps:YES];
+  // Activation is only a request from macOS 14 on; the panel must be seen either way.
+  [panel orderFrontRegardless];
   return std::make_unique<SystemConfigurationFailurePanel>(panel);
 }
 

@@ -4,9 +4,9 @@
 
 namespace quenby {
 
-/// NSDistributedNotificationCenter's default centre, delivering on the main queue. Main thread
-/// only; holds no state. Each observation lasts as long as its token, and a notification already
-/// queued when the token goes is dropped.
+/// NSDistributedNotificationCenter's default centre, delivering on the main thread at once, also
+/// while the application is inactive. Main thread only; holds no state. Each observation lasts as
+/// long as its token, and a notification already on its way when the token goes is dropped.
 class DistributedNotificationCenter final : public DistributedNotificationObserving {
 public:
   [[nodiscard]] ObservationToken observe(const std::string& name,

@@ -1,7 +1,23 @@
-// Main-thread scheduling over GCD's main queue and common-mode NSTimers. Call from the main
-// thread only. The token owns the task; the queued block or the timer holds it weakly, so work
-// whose token is gone (cancelled) finds nothing to run. Dropping a timer's token also invalidates
-// the timer, which releases its block at once.
+// Main-thread scheduling over GCD's main queue and common-mode NSTimers.
+//
+// Threading: call from the main thread only; every task runs on it.
+//
+// Lifetime: the token owns the task; the queued block or the timer holds it weakly, so work
+// whose token is gone (cancelled) finds nothing to run. Dropping a timer's token also
+// invalidates the timer, which releases its block at once.
+//
+// Guarantee: a task never runs before its time. A repeating task may run up to a tenth of its
+// interval late.
+//
+// App Nap: a windowless accessory application is a candidate for App Nap, which can stretch the
+// 0.5 s polls (Dock, catalog) to several seconds. We take no activity assertion: it would keep
+// the process out of App Nap for the whole session, all day on battery, for polls that are only
+// a backstop. The Dock's and Launch Services' distributed notifications are registered to be
+// delivered immediately and wake the process on every real change; the digit press is to re-read
+// the Dock before it acts, which costs one preferences synchronisation and one comparison when
+// nothing changed, so a late poll never sends a press to a stale application. What we do give
+// the system is a tolerance of a tenth of the interval on repeating timers, so it can coalesce
+// our wake-ups with others'; one-shot delays keep none, they time what the user sees.
 
 #include "base/macos/MainQueueScheduler.hpp"
 
@@ -16,6 +32,9 @@ namespace quenby {
 namespace {
 
 using SharedTask = std::shared_ptr<MainScheduler::Task>;
+
+// The share of a repeating timer's interval by which it may fire late.
+constexpr double kRepeatingTolerance = 0.1;
 
 NSTimeInterval seconds(Duration duration) {
   return std::chrono::duration<double>(duration).count();
@@ -33,6 +52,9 @@ ObservationToken scheduleTimer(Duration interval, bool repeats, MainScheduler::T
                                                 (*alive)();
                                               }
                                             }];
+  if (repeats) {
+    timer.tolerance = seconds(interval) * kRepeatingTolerance;
+  }
   [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];
   return ObservationToken([timer, owned]() mutable {
     [timer invalidate];

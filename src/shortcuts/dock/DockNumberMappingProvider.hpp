@@ -33,6 +33,12 @@ inline constexpr LocalizedText kDockMissingIdentifierText{
 /// installed copies. Re-reads the Dock when it announces a change, polls twice a second for
 /// missed announcements, and re-resolves when the installed applications change. Main thread
 /// only; every callback it hands out holds it weakly.
+///
+/// The announcements are what keeps the mappings current; the poll is a backstop that App Nap
+/// may stretch to seconds, and that is accepted rather than paid for with an activity assertion
+/// held all session (see MainQueueScheduler.mm). The digit press is to call `reload(false)`
+/// before it acts, so a late poll never costs a wrong switch: when nothing changed that is one
+/// synchronisation and one comparison.
 class DockNumberMappingProvider final : public NumberMappingProviding {
 public:
   static constexpr std::chrono::milliseconds kPollInterval{500};

@@ -7,13 +7,14 @@
 
 namespace quenby {
 
-/// The Dock's preference domain for the current user on any host, as the two closures that a
-/// `SystemDockPreferenceReader` reads through. The closures hold no state of their own and run
-/// on the main thread.
+/// The Dock's preference domain as the Dock reads it (its application search list, forced
+/// values included), as the two closures that a `SystemDockPreferenceReader` reads through. They
+/// run on the main thread.
 struct SystemDockPreferences {
   std::function<bool()> synchronize;
   /// A value that is present but cannot be converted comes back as an empty dictionary, so the
-  /// reader reports it as malformed rather than missing.
+  /// reader reports it as malformed rather than missing. Remembers the last value: an unchanged
+  /// one is not converted again, and comes back sharing the last conversion's items.
   std::function<std::optional<PropertyListValue>()> copyPersistentApps;
 };
 

@@ -1,5 +1,16 @@
-// CFPreferences for the Dock's domain ("com.apple.dock", current user, any host) behind the
-// portable Dock reader. Main thread only. The copied value (+1) is handed to ARC at once.
+// CFPreferences for the Dock's domain ("com.apple.dock") behind the portable Dock reader.
+//
+// Threading: main thread only; the closures are called by the reader, on the poll and on the
+// Dock's notifications.
+//
+// Lifetime: the copy closure keeps the last value it copied (retained) and what it converted to,
+// for as long as the closure lives; every copied value (+1) is handed to ARC at once.
+//
+// Guarantee: values are read as the Dock itself reads them, through the application search list,
+// so a value forced by device management is the one we see. An unchanged value costs one
+// synchronisation and one CFEqual: it is converted only when it differs from the last one, and
+// the unchanged conversion is handed back shared, not copied, so the reader and the provider see
+// the very same items.
 
 #include "shortcuts/dock/macos/SystemDockPreferences.hpp"
 
@@ -17,23 +28,26 @@ SystemDockPreferences makeSystemDockPreferences() {
   NSString* key = foundationString(SystemDockPreferenceReader::kPersistentAppsKey);
   return {
       .synchronize =
-          [domain] {
-            return CFPreferencesSynchronize((__bridge CFStringRef)domain, kCFPreferencesCurrentUser,
-                                            kCFPreferencesAnyHost) != 0;
-          },
-      .copyPersistentApps = [domain, key]() -> std::optional<PropertyListValue> {
+          [domain] { return CFPreferencesAppSynchronize((__bridge CFStringRef)domain) != 0; },
+      .copyPersistentApps = [domain, key, lastRaw = id(nil),
+                             lastConverted = std::optional<PropertyListValue>()]() mutable
+      -> std::optional<PropertyListValue> {
         @autoreleasepool {
-          id value = CFBridgingRelease(
-              CFPreferencesCopyValue((__bridge CFStringRef)key, (__bridge CFStringRef)domain,
-                                     kCFPreferencesCurrentUser, kCFPreferencesAnyHost));
-          if (value == nil) {
+          id raw = CFBridgingRelease(
+              CFPreferencesCopyAppValue((__bridge CFStringRef)key, (__bridge CFStringRef)domain));
+          if (raw == nil) {
+            lastRaw = nil;
+            lastConverted.reset();
             return std::nullopt;
           }
-          auto converted = propertyListValueFromFoundation(value);
-          if (!converted) {
-            return PropertyListValue(PropertyListValue::Dictionary{});
+          if (lastRaw != nil && CFEqual((__bridge CFTypeRef)raw, (__bridge CFTypeRef)lastRaw)) {
+            return lastConverted;
           }
-          return std::move(converted).value();
+          auto converted = propertyListValueFromFoundation(raw);
+          lastRaw = raw;
+          lastConverted = converted ? std::move(converted).value()
+                                    : PropertyListValue(PropertyListValue::Dictionary{});
+          return lastConverted;
         }
       },
   };
