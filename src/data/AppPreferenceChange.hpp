@@ -1,83 +1,80 @@
 #pragma once
 
-#include "data/AppPreferences.hpp"
+#include "data/AppPreferenceTable.hpp"
 
-#include <array>
-#include <cstdint>
+#include <cstddef>
 #include <optional>
-#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace quenby {
 
-/// The nine preferences, in the order the settings page and the state dump list them.
-enum class AppPreferenceProperty : std::uint8_t {
-  windowPlacement,
-  hudSize,
-  activationModifier,
-  hudActivationGesture,
-  hudTheme,
-  hudOpacity,
-  shortcutAnimationEnabled,
-  shortcutAnimationDisplay,
-  shortcutHidesFrontmostApplication,
+namespace detail {
+
+template <typename Variant, typename T> struct WithAlternative;
+template <typename... Held, typename T> struct WithAlternative<std::variant<Held...>, T> {
+  using type = std::conditional_t<(std::is_same_v<Held, T> || ...), std::variant<Held...>,
+                                  std::variant<Held..., T>>;
 };
 
-inline constexpr std::array kAllAppPreferenceProperties{
-    AppPreferenceProperty::windowPlacement,
-    AppPreferenceProperty::hudSize,
-    AppPreferenceProperty::activationModifier,
-    AppPreferenceProperty::hudActivationGesture,
-    AppPreferenceProperty::hudTheme,
-    AppPreferenceProperty::hudOpacity,
-    AppPreferenceProperty::shortcutAnimationEnabled,
-    AppPreferenceProperty::shortcutAnimationDisplay,
-    AppPreferenceProperty::shortcutHidesFrontmostApplication,
+/// Adds the value type of every entry from `Index` on to `Variant`, each once.
+template <std::size_t Index, typename Variant> struct AppPreferenceValueVariant {
+  using type = typename AppPreferenceValueVariant<
+      Index + 1,
+      typename WithAlternative<
+          Variant, AppPreferenceValue<static_cast<AppPreferenceProperty>(Index)>>::type>::type;
+};
+template <typename Variant> struct AppPreferenceValueVariant<kAppPreferenceCount, Variant> {
+  using type = Variant;
 };
 
-/// The property's name as written in scenarios and state dumps ("hudSize").
-[[nodiscard]] std::string_view propertyName(AppPreferenceProperty property);
-[[nodiscard]] std::optional<AppPreferenceProperty>
-appPreferencePropertyNamed(std::string_view name);
+} // namespace detail
 
 /// One preference that changed, with its new value. Build it with the named constructors so that
 /// the property and the kind of value always agree; three bytes, passed by value.
 struct AppPreferenceChange {
-  using Value =
-      std::variant<WindowPlacementPreference, HUDSizePreference, ActivationModifierPreference,
-                   HUDActivationGesturePreference, HUDThemePreference, HUDOpacityPreference, bool,
-                   ShortcutAnimationDisplayPreference>;
+  /// Every type a preference holds, each once.
+  using Value = detail::AppPreferenceValueVariant<
+      1, std::variant<AppPreferenceValue<static_cast<AppPreferenceProperty>(0)>>>::type;
 
   AppPreferenceProperty property;
   Value value;
 
+  /// The change of `P` to `value`; the named constructors below spell it for each preference.
+  template <AppPreferenceProperty P>
+  [[nodiscard]] static AppPreferenceChange to(AppPreferenceValue<P> value) {
+    return {P, value};
+  }
+
   [[nodiscard]] static AppPreferenceChange windowPlacement(WindowPlacementPreference v) {
-    return {AppPreferenceProperty::windowPlacement, v};
+    return to<AppPreferenceProperty::windowPlacement>(v);
   }
   [[nodiscard]] static AppPreferenceChange hudSize(HUDSizePreference v) {
-    return {AppPreferenceProperty::hudSize, v};
+    return to<AppPreferenceProperty::hudSize>(v);
   }
   [[nodiscard]] static AppPreferenceChange activationModifier(ActivationModifierPreference v) {
-    return {AppPreferenceProperty::activationModifier, v};
+    return to<AppPreferenceProperty::activationModifier>(v);
   }
   [[nodiscard]] static AppPreferenceChange hudActivationGesture(HUDActivationGesturePreference v) {
-    return {AppPreferenceProperty::hudActivationGesture, v};
+    return to<AppPreferenceProperty::hudActivationGesture>(v);
   }
   [[nodiscard]] static AppPreferenceChange hudTheme(HUDThemePreference v) {
-    return {AppPreferenceProperty::hudTheme, v};
+    return to<AppPreferenceProperty::hudTheme>(v);
   }
   [[nodiscard]] static AppPreferenceChange hudOpacity(HUDOpacityPreference v) {
-    return {AppPreferenceProperty::hudOpacity, v};
+    return to<AppPreferenceProperty::hudOpacity>(v);
   }
   [[nodiscard]] static AppPreferenceChange shortcutAnimationEnabled(bool v) {
-    return {AppPreferenceProperty::shortcutAnimationEnabled, v};
+    return to<AppPreferenceProperty::shortcutAnimationEnabled>(v);
   }
   [[nodiscard]] static AppPreferenceChange
   shortcutAnimationDisplay(ShortcutAnimationDisplayPreference v) {
-    return {AppPreferenceProperty::shortcutAnimationDisplay, v};
+    return to<AppPreferenceProperty::shortcutAnimationDisplay>(v);
   }
   [[nodiscard]] static AppPreferenceChange shortcutHidesFrontmostApplication(bool v) {
-    return {AppPreferenceProperty::shortcutHidesFrontmostApplication, v};
+    return to<AppPreferenceProperty::shortcutHidesFrontmostApplication>(v);
   }
 
   /// The new value when this change is to `expected`; none for a change to another property.

@@ -1,8 +1,5 @@
 #include "data/AppPreferencesStore.hpp"
 
-#include <charconv>
-#include <type_traits>
-
 namespace quenby {
 
 namespace {
@@ -21,47 +18,6 @@ HUDSizePreference sizeFromOlderScale(const std::optional<std::string>& stored) {
   return HUDSizePreference::standard;
 }
 
-template <typename T>
-Expected<T, std::string> parseRawText(AppPreferenceProperty property, std::string_view text) {
-  std::optional<T> parsed;
-  if constexpr (std::is_same_v<typename PreferenceCases<T>::Raw, std::string_view>) {
-    parsed = fromRawValue<T>(text);
-  } else {
-    std::int64_t number = 0;
-    const auto* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error == std::errc{} && stop == end) {
-      parsed = fromRawValue<T>(number);
-    }
-  }
-  if (!parsed) {
-    return Unexpected{std::string(propertyName(property)) + " must be one of " + rawValueList<T>()};
-  }
-  return *parsed;
-}
-
-template <>
-Expected<bool, std::string> parseRawText<bool>(AppPreferenceProperty property,
-                                               std::string_view text) {
-  if (text == "true" || text == "false") {
-    return text == "true";
-  }
-  return Unexpected{std::string(propertyName(property)) + " must be true or false"};
-}
-
-template <typename T>
-Expected<bool, std::string>
-applyRawText(AppPreferencesStore& store, AppPreferenceProperty property, std::string_view text,
-             T (AppPreferencesStore::*getter)() const, void (AppPreferencesStore::*setter)(T)) {
-  const auto parsed = parseRawText<T>(property, text);
-  if (!parsed) {
-    return Unexpected{parsed.error()};
-  }
-  const bool changes = (store.*getter)() != *parsed;
-  (store.*setter)(*parsed);
-  return changes;
-}
-
 } // namespace
 
 AppPreferencesStore::AppPreferencesStore(KeyValueStore& storage,
@@ -76,31 +32,32 @@ AppPreferencesStore::MigrationFailureReporter AppPreferencesStore::loggingReport
   };
 }
 
-template <typename T> T AppPreferencesStore::read(std::string_view key) const {
-  const auto object = storage_.object(key);
-  return readStoredPreference<T>(object ? &*object : nullptr);
-}
-
-bool AppPreferencesStore::readBoolean(std::string_view key, bool fallback) const {
-  const auto object = storage_.object(key);
-  if (!object || object->boolean() == nullptr) {
-    return fallback;
+template <AppPreferenceProperty P> AppPreferenceValue<P> AppPreferencesStore::current() const {
+  if constexpr (P == AppPreferenceProperty::hudSize) {
+    if (migratedHUDSizeFallback_) {
+      return *migratedHUDSizeFallback_;
+    }
   }
-  return *object->boolean();
+  return stored<P>();
 }
 
-template <typename T>
-void AppPreferencesStore::write(std::string_view key, T current, T value,
-                                AppPreferenceChange change) {
-  if (current == value) {
+template <AppPreferenceProperty P> AppPreferenceValue<P> AppPreferencesStore::stored() const {
+  const auto object = storage_.object(appPreference<P>().key);
+  return appPreference<P>().read(object ? &*object : nullptr);
+}
+
+template <AppPreferenceProperty P> void AppPreferencesStore::assign(AppPreferenceValue<P> value) {
+  if constexpr (P == AppPreferenceProperty::hudSize) {
+    if (migratedHUDSizeFallback_) {
+      retryHUDSizeMigration(value);
+      return;
+    }
+  }
+  if (stored<P>() == value) {
     return;
   }
-  if constexpr (std::is_same_v<T, bool>) {
-    storage_.set(key, PropertyListValue(value));
-  } else {
-    storage_.set(key, PropertyListValue(rawValue(value)));
-  }
-  notify(change);
+  storage_.set(appPreference<P>().key, appPreference<P>().stored(value));
+  notify(AppPreferenceChange::to<P>(value));
 }
 
 void AppPreferencesStore::notify(AppPreferenceChange change) {
@@ -116,96 +73,75 @@ void AppPreferencesStore::notify(AppPreferenceChange change) {
 }
 
 WindowPlacementPreference AppPreferencesStore::windowPlacement() const {
-  return read<WindowPlacementPreference>(kWindowPlacementKey);
+  return current<AppPreferenceProperty::windowPlacement>();
 }
 
 void AppPreferencesStore::setWindowPlacement(WindowPlacementPreference value) {
-  write(kWindowPlacementKey, windowPlacement(), value, AppPreferenceChange::windowPlacement(value));
+  assign<AppPreferenceProperty::windowPlacement>(value);
 }
 
 HUDSizePreference AppPreferencesStore::hudSize() const {
-  if (migratedHUDSizeFallback_) {
-    return *migratedHUDSizeFallback_;
-  }
-  return read<HUDSizePreference>(kHUDSizeKey);
+  return current<AppPreferenceProperty::hudSize>();
 }
 
 void AppPreferencesStore::setHUDSize(HUDSizePreference value) {
-  if (!migratedHUDSizeFallback_) {
-    write(kHUDSizeKey, read<HUDSizePreference>(kHUDSizeKey), value,
-          AppPreferenceChange::hudSize(value));
-    return;
-  }
-  if (*migratedHUDSizeFallback_ == value) {
-    return;
-  }
-  // The size is still unpersisted, so this write retries the whole migration step.
-  migratedHUDSizeFallback_ = value;
-  if (persistHUDSize(value, storage_.integer(kHUDSizeVersionKey))) {
-    migratedHUDSizeFallback_.reset();
-  }
-  notify(AppPreferenceChange::hudSize(value));
+  assign<AppPreferenceProperty::hudSize>(value);
 }
 
 ActivationModifierPreference AppPreferencesStore::activationModifier() const {
-  return read<ActivationModifierPreference>(kActivationModifierKey);
+  return current<AppPreferenceProperty::activationModifier>();
 }
 
 void AppPreferencesStore::setActivationModifier(ActivationModifierPreference value) {
-  write(kActivationModifierKey, activationModifier(), value,
-        AppPreferenceChange::activationModifier(value));
+  assign<AppPreferenceProperty::activationModifier>(value);
 }
 
 HUDActivationGesturePreference AppPreferencesStore::hudActivationGesture() const {
-  return read<HUDActivationGesturePreference>(kHUDActivationGestureKey);
+  return current<AppPreferenceProperty::hudActivationGesture>();
 }
 
 void AppPreferencesStore::setHUDActivationGesture(HUDActivationGesturePreference value) {
-  write(kHUDActivationGestureKey, hudActivationGesture(), value,
-        AppPreferenceChange::hudActivationGesture(value));
+  assign<AppPreferenceProperty::hudActivationGesture>(value);
 }
 
 HUDThemePreference AppPreferencesStore::hudTheme() const {
-  return read<HUDThemePreference>(kHUDThemeKey);
+  return current<AppPreferenceProperty::hudTheme>();
 }
 
 void AppPreferencesStore::setHUDTheme(HUDThemePreference value) {
-  write(kHUDThemeKey, hudTheme(), value, AppPreferenceChange::hudTheme(value));
+  assign<AppPreferenceProperty::hudTheme>(value);
 }
 
 HUDOpacityPreference AppPreferencesStore::hudOpacity() const {
-  return read<HUDOpacityPreference>(kHUDOpacityKey);
+  return current<AppPreferenceProperty::hudOpacity>();
 }
 
 void AppPreferencesStore::setHUDOpacity(HUDOpacityPreference value) {
-  write(kHUDOpacityKey, hudOpacity(), value, AppPreferenceChange::hudOpacity(value));
+  assign<AppPreferenceProperty::hudOpacity>(value);
 }
 
 bool AppPreferencesStore::shortcutAnimationEnabled() const {
-  return readBoolean(kShortcutAnimationEnabledKey, true);
+  return current<AppPreferenceProperty::shortcutAnimationEnabled>();
 }
 
 void AppPreferencesStore::setShortcutAnimationEnabled(bool value) {
-  write(kShortcutAnimationEnabledKey, shortcutAnimationEnabled(), value,
-        AppPreferenceChange::shortcutAnimationEnabled(value));
+  assign<AppPreferenceProperty::shortcutAnimationEnabled>(value);
 }
 
 ShortcutAnimationDisplayPreference AppPreferencesStore::shortcutAnimationDisplay() const {
-  return read<ShortcutAnimationDisplayPreference>(kShortcutAnimationDisplayKey);
+  return current<AppPreferenceProperty::shortcutAnimationDisplay>();
 }
 
 void AppPreferencesStore::setShortcutAnimationDisplay(ShortcutAnimationDisplayPreference value) {
-  write(kShortcutAnimationDisplayKey, shortcutAnimationDisplay(), value,
-        AppPreferenceChange::shortcutAnimationDisplay(value));
+  assign<AppPreferenceProperty::shortcutAnimationDisplay>(value);
 }
 
 bool AppPreferencesStore::shortcutHidesFrontmostApplication() const {
-  return readBoolean(kShortcutHidesFrontmostApplicationKey, false);
+  return current<AppPreferenceProperty::shortcutHidesFrontmostApplication>();
 }
 
 void AppPreferencesStore::setShortcutHidesFrontmostApplication(bool value) {
-  write(kShortcutHidesFrontmostApplicationKey, shortcutHidesFrontmostApplication(), value,
-        AppPreferenceChange::shortcutHidesFrontmostApplication(value));
+  assign<AppPreferenceProperty::shortcutHidesFrontmostApplication>(value);
 }
 
 AppPreferenceObservation AppPreferencesStore::observe(Handler handler) {
@@ -225,6 +161,17 @@ void AppPreferencesStore::migrateHUDSize() {
     return;
   }
   persistHUDSize(sizeFromOlderScale(storage_.string(kHUDSizeKey)), version);
+}
+
+void AppPreferencesStore::retryHUDSizeMigration(HUDSizePreference size) {
+  if (*migratedHUDSizeFallback_ == size) {
+    return;
+  }
+  migratedHUDSizeFallback_ = size;
+  if (persistHUDSize(size, storage_.integer(kHUDSizeVersionKey))) {
+    migratedHUDSizeFallback_.reset();
+  }
+  notify(AppPreferenceChange::hudSize(size));
 }
 
 bool AppPreferencesStore::persistHUDSize(HUDSizePreference size, std::int64_t previousVersion) {
@@ -251,51 +198,37 @@ bool AppPreferencesStore::persistHUDSize(HUDSizePreference size, std::int64_t pr
 }
 
 std::vector<std::pair<std::string, PropertyListValue>> AppPreferencesStore::rawValues() const {
-  return {
-      {"windowPlacement", rawValue(windowPlacement())},
-      {"hudSize", rawValue(hudSize())},
-      {"activationModifier", rawValue(activationModifier())},
-      {"hudActivationGesture", rawValue(hudActivationGesture())},
-      {"hudTheme", rawValue(hudTheme())},
-      {"hudOpacity", rawValue(hudOpacity())},
-      {"shortcutAnimationEnabled", shortcutAnimationEnabled()},
-      {"shortcutAnimationDisplay", rawValue(shortcutAnimationDisplay())},
-      {"shortcutHidesFrontmostApplication", shortcutHidesFrontmostApplication()},
-  };
+  std::vector<std::pair<std::string, PropertyListValue>> values;
+  values.reserve(kAppPreferenceCount);
+  forEachAppPreference([&](auto property) {
+    constexpr auto P = decltype(property)::value;
+    values.emplace_back(appPreference<P>().name, appPreference<P>().stored(current<P>()));
+  });
+  return values;
 }
 
 Expected<bool, std::string> AppPreferencesStore::setRaw(std::string_view property,
                                                         std::string_view rawText) {
-  const auto named = appPreferencePropertyNamed(property);
-  if (!named) {
+  std::optional<Expected<bool, std::string>> outcome;
+  forEachAppPreference([&](auto candidate) {
+    constexpr auto P = decltype(candidate)::value;
+    const auto& entry = appPreference<P>();
+    if (entry.name != property) {
+      return;
+    }
+    const auto parsed = entry.parse(rawText);
+    if (!parsed) {
+      outcome = Unexpected{std::string(entry.name) + " " + entry.expectation()};
+      return;
+    }
+    const bool changes = current<P>() != *parsed;
+    assign<P>(*parsed);
+    outcome = changes;
+  });
+  if (!outcome) {
     return Unexpected{"unknown preference \"" + std::string(property) + "\""};
   }
-  using S = AppPreferencesStore;
-  switch (*named) {
-  case AppPreferenceProperty::windowPlacement:
-    return applyRawText(*this, *named, rawText, &S::windowPlacement, &S::setWindowPlacement);
-  case AppPreferenceProperty::hudSize:
-    return applyRawText(*this, *named, rawText, &S::hudSize, &S::setHUDSize);
-  case AppPreferenceProperty::activationModifier:
-    return applyRawText(*this, *named, rawText, &S::activationModifier, &S::setActivationModifier);
-  case AppPreferenceProperty::hudActivationGesture:
-    return applyRawText(*this, *named, rawText, &S::hudActivationGesture,
-                        &S::setHUDActivationGesture);
-  case AppPreferenceProperty::hudTheme:
-    return applyRawText(*this, *named, rawText, &S::hudTheme, &S::setHUDTheme);
-  case AppPreferenceProperty::hudOpacity:
-    return applyRawText(*this, *named, rawText, &S::hudOpacity, &S::setHUDOpacity);
-  case AppPreferenceProperty::shortcutAnimationEnabled:
-    return applyRawText(*this, *named, rawText, &S::shortcutAnimationEnabled,
-                        &S::setShortcutAnimationEnabled);
-  case AppPreferenceProperty::shortcutAnimationDisplay:
-    return applyRawText(*this, *named, rawText, &S::shortcutAnimationDisplay,
-                        &S::setShortcutAnimationDisplay);
-  case AppPreferenceProperty::shortcutHidesFrontmostApplication:
-    return applyRawText(*this, *named, rawText, &S::shortcutHidesFrontmostApplication,
-                        &S::setShortcutHidesFrontmostApplication);
-  }
-  return Unexpected{"unknown preference \"" + std::string(property) + "\""};
+  return *outcome;
 }
 
 } // namespace quenby

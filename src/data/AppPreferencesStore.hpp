@@ -26,19 +26,27 @@ class AppPreferencesStore final : public AppPreferencesProviding {
 public:
   using MigrationFailureReporter = std::function<void(const std::string&)>;
 
-  static constexpr std::string_view kWindowPlacementKey = "settings.windowPlacement";
-  static constexpr std::string_view kHUDSizeKey = "settings.hudSize";
-  static constexpr std::string_view kHUDSizeVersionKey = "settings.hudSize.version";
-  static constexpr std::string_view kActivationModifierKey = "settings.activationModifier";
-  static constexpr std::string_view kHUDActivationGestureKey = "settings.hudActivationGesture";
-  static constexpr std::string_view kHUDThemeKey = "settings.hudTheme";
-  static constexpr std::string_view kHUDOpacityKey = "settings.hudOpacity";
+  /// The keys of the preferences that code outside the store reaches directly; a new preference
+  /// needs none, its key being `appPreference<P>().key`.
+  static constexpr std::string_view kWindowPlacementKey =
+      appPreference<AppPreferenceProperty::windowPlacement>().key;
+  static constexpr std::string_view kHUDSizeKey =
+      appPreference<AppPreferenceProperty::hudSize>().key;
+  static constexpr std::string_view kActivationModifierKey =
+      appPreference<AppPreferenceProperty::activationModifier>().key;
+  static constexpr std::string_view kHUDActivationGestureKey =
+      appPreference<AppPreferenceProperty::hudActivationGesture>().key;
+  static constexpr std::string_view kHUDThemeKey =
+      appPreference<AppPreferenceProperty::hudTheme>().key;
+  static constexpr std::string_view kHUDOpacityKey =
+      appPreference<AppPreferenceProperty::hudOpacity>().key;
   static constexpr std::string_view kShortcutAnimationEnabledKey =
-      "settings.shortcutAnimation.enabled";
+      appPreference<AppPreferenceProperty::shortcutAnimationEnabled>().key;
   static constexpr std::string_view kShortcutAnimationDisplayKey =
-      "settings.shortcutAnimation.display";
+      appPreference<AppPreferenceProperty::shortcutAnimationDisplay>().key;
   static constexpr std::string_view kShortcutHidesFrontmostApplicationKey =
-      "settings.shortcutHidesFrontmostApplication";
+      appPreference<AppPreferenceProperty::shortcutHidesFrontmostApplication>().key;
+  static constexpr std::string_view kHUDSizeVersionKey = "settings.hudSize.version";
   /// The scale that "settings.hudSize" holds once migrated; absent or lower means the older one.
   static constexpr std::int64_t kCurrentHUDSizeVersion = 2;
 
@@ -78,7 +86,7 @@ public:
   }
 
   /// Every property by name, in table order, as its raw value: a string, an integer for the
-  /// opacity, a Boolean for the two switches.
+  /// opacity, a Boolean for a switch.
   [[nodiscard]] std::vector<std::pair<std::string, PropertyListValue>> rawValues() const;
   /// Sets the property named `property` from its raw value written as text ("large", "80",
   /// "true") through the typed setter. True when the value changed; an error message for an
@@ -91,14 +99,16 @@ private:
     std::map<std::uint64_t, Handler> handlers;
   };
 
-  template <typename T> [[nodiscard]] T read(std::string_view key) const;
-  [[nodiscard]] bool readBoolean(std::string_view key, bool fallback) const;
-  /// Writes and notifies unless `value` is what the property reads as now (`current`).
-  template <typename T>
-  void write(std::string_view key, T current, T value, AppPreferenceChange change);
+  /// What `P` reads as: the stored value, or the HUD size kept in memory while it is unpersisted.
+  template <AppPreferenceProperty P> [[nodiscard]] AppPreferenceValue<P> current() const;
+  template <AppPreferenceProperty P> [[nodiscard]] AppPreferenceValue<P> stored() const;
+  /// Writes and notifies unless `value` is what `P` reads as now.
+  template <AppPreferenceProperty P> void assign(AppPreferenceValue<P> value);
   void notify(AppPreferenceChange change);
 
   void migrateHUDSize();
+  /// A new size while the migrated one is unpersisted: the write retries the whole migration.
+  void retryHUDSizeMigration(HUDSizePreference size);
   /// Writes `size` and then the current scale version, reading each back; on failure keeps `size`
   /// as the fallback, restores `previousVersion` and reports. True when both writes took.
   bool persistHUDSize(HUDSizePreference size, std::int64_t previousVersion);

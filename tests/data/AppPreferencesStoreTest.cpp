@@ -247,5 +247,60 @@ TEST(AppPreferencesStoreTest, SetRawParsesTheTextOfEveryKindOfProperty) {
   EXPECT_EQ(allCases<HUDSizePreference>().back(), HUDSizePreference::large);
 }
 
+TEST(AppPreferencesStoreTest, EveryValueOfEveryPreferenceSurvivesARestartAndIsAnnounced) {
+  Fixture f;
+  auto store = std::make_unique<Store>(f.defaults, f.reporter());
+  std::vector<AppPreferenceChange> changes;
+  const auto record = [&changes](AppPreferenceChange c) { changes.push_back(c); };
+  auto observation = store->observe(record);
+  const auto shownAs = [&store](const std::string& name) -> std::string {
+    for (const auto& [shown, value] : store->rawValues()) {
+      if (shown == name) {
+        if (const auto* flag = value.boolean()) {
+          return *flag ? "true" : "false";
+        }
+        return value.string() ? *value.string() : std::to_string(*value.integer());
+      }
+    }
+    return "absent";
+  };
+  std::vector<std::pair<std::string, std::string>> texts;
+  for (const auto& [name, value] : store->rawValues()) {
+    // Each preference's non-default values, written as a scenario would write them.
+    const auto property = appPreferencePropertyNamed(name);
+    ASSERT_TRUE(property.has_value()) << name;
+    EXPECT_EQ(propertyName(*property), name);
+    if (const auto* flag = value.boolean()) {
+      texts.emplace_back(name, *flag ? "false" : "true");
+    }
+  }
+  for (const auto size : allCases<HUDSizePreference>()) {
+    texts.emplace_back("hudSize", std::string(rawValue(size)));
+  }
+  for (const auto opacity : allCases<HUDOpacityPreference>()) {
+    texts.emplace_back("hudOpacity", std::to_string(rawValue(opacity)));
+  }
+  texts.emplace_back("windowPlacement", "displayUnderMouse");
+  texts.emplace_back("shortcutAnimationDisplay", "displayUnderMouse");
+  texts.emplace_back("hudTheme", "light");
+  texts.emplace_back("hudActivationGesture", "longPress");
+  texts.emplace_back("activationModifier", "control");
+
+  for (const auto& [name, text] : texts) {
+    changes.clear();
+    const bool changed = store->setRaw(name, text).value();
+    EXPECT_EQ(changes.size(), changed ? 1U : 0U) << name << " " << text;
+    if (changed) {
+      EXPECT_EQ(propertyName(changes[0].property), name);
+    }
+    const auto before = store->rawValues();
+    store = std::make_unique<Store>(f.defaults, f.reporter());
+    observation = store->observe(record);
+    EXPECT_EQ(shownAs(name), text);
+    EXPECT_EQ(store->rawValues(), before) << name << " " << text;
+  }
+  EXPECT_TRUE(f.reports.empty());
+}
+
 } // namespace
 } // namespace quenby

@@ -170,6 +170,29 @@ TEST(LibplistPropertyListDecoderTest, RefusesNestingBeyondTheLimitWithoutExhaust
   EXPECT_TRUE(decoder.decode(nestedBinaryArrays(limit)).hasValue());
   EXPECT_EQ(decoder.decode(nestedBinaryArrays(limit + 1)).error().kind, Kind::tooDeep);
 
+  // The checks made before libplist runs refuse on their own, not only through the conversion's
+  // limit. The XML check counts every element, the leaf and a wrapper libplist disregards alike.
+  const auto refusal = [&decoder](const Bytes& bytes) -> std::optional<Kind> {
+    const auto result = decoder.decode(bytes);
+    return result.hasValue() ? std::nullopt : std::optional(result.error().kind);
+  };
+  const std::string xmlAtTheLimit =
+      repeated("<array>", limit) + "<string>x</string>" + repeated("</array>", limit);
+  EXPECT_EQ(refusal(bytesOf(xmlDocument(xmlAtTheLimit))), std::nullopt);
+  EXPECT_EQ(refusal(bytesOf(xmlDocument("<plist>" + xmlAtTheLimit + "</plist>"))), Kind::tooDeep);
+  // In binary a value that is no property-list value comes first, so the conversion would
+  // answer malformed before it reached the nesting.
+  const auto binaryBesideAValueNotAllowed = [](std::uint32_t levels) {
+    std::vector<Bytes> objects{arrayObject({1, 2}), {0x80, 0x01}};
+    for (std::uint32_t i = 2; i < levels; ++i) {
+      objects.push_back(arrayObject({i + 1}));
+    }
+    objects.push_back(arrayObject({}));
+    return binaryPlist(objects);
+  };
+  EXPECT_EQ(refusal(binaryBesideAValueNotAllowed(limit)), Kind::malformed);
+  EXPECT_EQ(refusal(binaryBesideAValueNotAllowed(limit + 1)), Kind::tooDeep);
+
   // Far deeper than libplist's own recursion survives.
   EXPECT_EQ(decoder.decode(bytesOf(xmlNesting(100'000))).error().kind, Kind::tooDeep);
   EXPECT_EQ(

@@ -7,8 +7,10 @@
 #include "support/ScriptedApplicationResolver.hpp"
 #include "support/ScriptedDistributedNotificationCenter.hpp"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <vector>
 
 namespace quenby {
 namespace {
@@ -190,6 +192,29 @@ TEST_F(DockNumberMappingProviderTest,
   provider->reload(false);
   provider->reload(false);
   EXPECT_EQ(provider->current().revision, 5u);
+}
+
+TEST_F(DockNumberMappingProviderTest, TheSameDockAfterAFailedReadRestoresEveryPosition) {
+  const auto failures = std::vector<std::function<void()>>{
+      [this] { missing = true; }, [this] { synchronizes = false; },
+      [this] {
+        dock = {kMail, PropertyListValue("not a dictionary")};
+      }};
+  for (const auto& fail : failures) {
+    dock = {kMail, kSafari};
+    provider->reload(false);
+    fail();
+    provider->reload(false);
+    ASSERT_NE(describe(1), "Mail");
+
+    missing = false;
+    synchronizes = true;
+    dock = {kMail, kSafari};
+    provider->reload(false);
+    EXPECT_EQ(describe(1), "Mail");
+    EXPECT_EQ(describe(2), "Safari");
+    EXPECT_EQ(describe(3), "emptyDockPosition");
+  }
 }
 
 TEST_F(DockNumberMappingProviderTest, OnlyRealChangesPublishAndOnlyCatalogChangesReResolve) {

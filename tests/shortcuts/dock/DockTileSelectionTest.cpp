@@ -30,6 +30,8 @@ TEST(DockTileSelectionTest, URLValuesBecomeStandardisedFileURLs) {
 TEST(DockTileSelectionTest, TextValuesAreTrimmedOfUnicodeWhitespace) {
   const PropertyListValue padded("\u00a0\u3000 Caf\u00e9 N\u00f6ir\u2028\r\n");
   EXPECT_EQ(dockText(&padded), "Caf\u00e9 N\u00f6ir");
+  const PropertyListValue nextLines("\u0085Mail\u0085");
+  EXPECT_EQ(dockText(&nextLines), "Mail");
   // Characters whose encoding merely resembles whitespace survive.
   const PropertyListValue lookalikes("\u00c2\u00a0x\u2027");
   EXPECT_EQ(dockText(&lookalikes), "\u00c2\u00a0x\u2027");
@@ -55,6 +57,30 @@ TEST(DockTileSelectionTest, ABlankLabelFallsBackToTheBundleName) {
           PropertyListValue::Dictionary{{"_CFURLString", "/System/Applications/Mail.app"},
                                         {"bundle-identifier", "Com.Apple.Mail"}}));
   EXPECT_EQ(selectPinnedTiles({inFileData})[0].bundleIdentifier, "Com.Apple.Mail");
+}
+
+TEST(DockTileSelectionTest, FinderTrashAndRunningOnlyTilesTakeNoPosition) {
+  const auto safari =
+      DockItems::application("Safari", "com.apple.Safari", "file:///Applications/Safari.app/");
+  const std::vector<PropertyListValue> skipped{
+      // The Dock may write the flag as a real number.
+      DockItems::withTileData(safari, "is-running-only", PropertyListValue(1.0)),
+      DockItems::withKey(safari, "is-running-only", PropertyListValue(0.5)),
+      DockItems::application("Trash", "com.apple.trash", "file:///Users/x/.Trash/"),
+      DockItems::application("Finder", "", "file:///System/Library/CoreServices/Finder.app/"),
+      DockItems::application("Trash", "", "file:///System/Library/CoreServices/Trash.app"),
+  };
+  for (const auto& item : skipped) {
+    EXPECT_TRUE(selectPinnedTiles({item}).empty());
+  }
+
+  // A zero flag keeps the tile, and so does an identifier-less bundle named in capitals.
+  const auto kept =
+      selectPinnedTiles({DockItems::withTileData(safari, "is-running-only", PropertyListValue(0.0)),
+                         DockItems::application("Legacy", "", "file:///Applications/LEGACY.APP/")});
+  ASSERT_EQ(kept.size(), 2u);
+  EXPECT_EQ(kept[0].bundleIdentifier, "com.apple.Safari");
+  EXPECT_EQ(kept[1].url, FileURL::fromPath("/Applications/LEGACY.APP"));
 }
 
 } // namespace
