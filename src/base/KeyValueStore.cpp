@@ -34,6 +34,12 @@ std::int64_t KeyValueStore::integer(std::string_view key) const {
   return 0;
 }
 
+bool KeyValueStore::setVerified(std::string_view key, const PropertyListValue& value) {
+  set(key, value);
+  const auto kept = object(key);
+  return kept && *kept == value;
+}
+
 bool KeyValueStore::isTrue(std::string_view key) const {
   const auto value = object(key);
   return value && value->boolean() != nullptr && *value->boolean();

@@ -19,6 +19,11 @@ public:
   virtual void set(std::string_view key, PropertyListValue value) = 0;
   virtual void remove(std::string_view key) = 0;
 
+  /// Writes `value`, then reads it back: false when the store did not keep it (another process
+  /// or a managed profile can override a key, and the platform reports nothing). Whatever must
+  /// survive a relaunch is written this way.
+  [[nodiscard]] bool setVerified(std::string_view key, const PropertyListValue& value);
+
   /// The value when it is a string; absent otherwise.
   [[nodiscard]] std::optional<std::string> string(std::string_view key) const;
   /// The value when it is an integer, a real (truncated) or a Boolean (0 or 1); 0 otherwise.

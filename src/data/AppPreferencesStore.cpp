@@ -175,17 +175,14 @@ void AppPreferencesStore::retryHUDSizeMigration(HUDSizePreference size) {
 }
 
 bool AppPreferencesStore::persistHUDSize(HUDSizePreference size, std::int64_t previousVersion) {
-  const auto written = rawValue(size);
-  storage_.set(kHUDSizeKey, PropertyListValue(written));
-  if (storage_.string(kHUDSizeKey) != written) {
+  if (!storage_.setVerified(kHUDSizeKey, PropertyListValue(rawValue(size)))) {
     migratedHUDSizeFallback_ = size;
     if (migrationFailureReporter_) {
       migrationFailureReporter_(std::string(kSizeValueNotPersisted));
     }
     return false;
   }
-  storage_.set(kHUDSizeVersionKey, PropertyListValue(kCurrentHUDSizeVersion));
-  if (storage_.integer(kHUDSizeVersionKey) == kCurrentHUDSizeVersion) {
+  if (storage_.setVerified(kHUDSizeVersionKey, PropertyListValue(kCurrentHUDSizeVersion))) {
     return true;
   }
   // A version without its value would skip the migration next launch, so put the old one back.
