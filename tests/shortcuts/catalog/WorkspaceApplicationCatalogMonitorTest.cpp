@@ -140,6 +140,39 @@ TEST_F(WorkspaceApplicationCatalogMonitorTest, EveryTriggerRefreshesAndEachRevis
   EXPECT_EQ(changes, 2);
 }
 
+TEST_F(WorkspaceApplicationCatalogMonitorTest, AStopFromTheChangeHandlerLeavesNoPollBehind) {
+  // The first revision is told during start(), before the poll would be armed.
+  monitor.setOnChange([this] {
+    ++changes;
+    monitor.stop();
+  });
+  monitor.start();
+  EXPECT_EQ(changes, 1);
+  EXPECT_FALSE(monitor.isRunning());
+  EXPECT_EQ(scheduler.pendingCount(), 0u);
+
+  // Deliveries that were already on their way when it stopped arm nothing either.
+  catalog.pendingChanges = 1;
+  query.deliver({});
+  workspace.post();
+  postEveryLaunchServicesNotification();
+  scheduler.advanceBy(WorkspaceApplicationCatalogMonitor::kPollInterval * 4);
+  EXPECT_EQ(catalog.refreshes, 1);
+  EXPECT_EQ(scheduler.pendingCount(), 0u);
+
+  // Stopped while running from a later trigger: the poll already armed goes with it.
+  monitor.setOnChange([this] { ++changes; });
+  monitor.start();
+  EXPECT_EQ(scheduler.pendingCount(), 1u);
+  catalog.pendingChanges = 1;
+  monitor.setOnChange([this] { monitor.stop(); });
+  workspace.post();
+  EXPECT_EQ(scheduler.pendingCount(), 0u);
+  const int refreshes = catalog.refreshes;
+  scheduler.advanceBy(WorkspaceApplicationCatalogMonitor::kPollInterval * 4);
+  EXPECT_EQ(catalog.refreshes, refreshes);
+}
+
 TEST(WorkspaceApplicationCatalogMonitorOnDiskTest, AMovedApplicationIsToldOnceAtTheNextPoll) {
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
