@@ -54,7 +54,7 @@ BundleApplicationMetadataReader::readSnapshot(const FileURL& bundleURL) {
   ApplicationMetadataSnapshot snapshot;
   // Taken before the read: a change that lands during the read then shows at the next poll.
   snapshot.fingerprint = inspector_.fingerprint(bundleURL, watchedResourceURLs(bundleURL));
-  if (bundleURL.pathExtension() != "app") {
+  if (!bundleURL.hasPathExtension("app")) {
     return snapshot;
   }
   const auto bytes = inspector_.readInfoPropertyList(bundleURL);

@@ -44,7 +44,7 @@ void DirectoryScanningApplicationLocator::rescan() {
       if (!attributes.isDirectory) {
         continue;
       }
-      if (entry.pathExtension() == "app") {
+      if (entry.hasPathExtension("app")) {
         if (auto metadata = metadataReader_.readMetadata(entry)) {
           urlsByBundleIdentifier_[metadata->bundleIdentifier].push_back(entry);
         }

@@ -54,7 +54,12 @@ TEST_F(BundleApplicationMetadataReaderTest, ReadsIdentifierAndTheBestDisplayName
                         PropertyListValue::Dictionary{{"CFBundleIdentifier", "com.example.xml"}}));
   EXPECT_EQ(reader.readMetadata(bundles.url("Sample.app"))->bundleIdentifier, "com.example.xml");
 
-  // Only ".app" bundles are applications.
+  // Only ".app" bundles are applications, whatever the case of the extension.
+  for (const char* name : {"Upper.APP", "Mixed.App"}) {
+    const auto found = reader.readMetadata(bundles.createBundle(name, "com.example.case", "Case"));
+    ASSERT_TRUE(found.has_value()) << name;
+    EXPECT_EQ(found->bundleIdentifier, "com.example.case");
+  }
   bundles.createBundle("Plugin.bundle", "com.example.plugin", "Plugin");
   EXPECT_FALSE(reader.readMetadata(bundles.url("Plugin.bundle")).has_value());
   EXPECT_FALSE(reader.readMetadata(bundles.url("Missing.app")).has_value());
