@@ -9,7 +9,6 @@
 #include "app/SystemConfigurationFailurePanelPresenter.hpp"
 #include "data/AppPreferencesStore.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationCatalogMonitor.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
@@ -45,7 +44,6 @@ private:
   AppRuntimeConfiguration configuration_;
   SystemConfigurationFailurePanelPresenter configurationFailurePresenter_;
   OneTimeConfigurationFailureReporter configurationReporter_;
-  SystemApplicationBundleFileInspector bundleInspector_;
   BundleApplicationMetadataReader metadataReader_;
   WorkspaceApplicationResolver resolver_;
   SystemApplicationCatalogDistributedObserver catalogDistributedObserver_;

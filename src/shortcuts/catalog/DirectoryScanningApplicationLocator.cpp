@@ -6,7 +6,7 @@
 namespace quenby {
 
 DirectoryScanningApplicationLocator::DirectoryScanningApplicationLocator(
-    const FileSystem& fileSystem, ApplicationMetadataReading& metadataReader, FileURL root)
+    const FileSystem& fileSystem, BundleApplicationMetadataReader& metadataReader, FileURL root)
     : fileSystem_(fileSystem), metadataReader_(metadataReader), root_(std::move(root)) {
   rescan();
 }

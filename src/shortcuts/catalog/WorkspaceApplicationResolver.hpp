@@ -1,8 +1,8 @@
 #pragma once
 
 #include "shortcuts/catalog/ApplicationCatalogRefreshing.hpp"
-#include "shortcuts/catalog/ApplicationMetadataReading.hpp"
 #include "shortcuts/catalog/ApplicationResolving.hpp"
+#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/InstalledApplicationLocating.hpp"
 
 #include <set>
@@ -29,7 +29,7 @@ public:
   };
 
   WorkspaceApplicationResolver(const InstalledApplicationLocating& locator,
-                               ApplicationMetadataReading& metadataReader)
+                               BundleApplicationMetadataReader& metadataReader)
       : locator_(locator), metadataReader_(metadataReader) {}
 
   [[nodiscard]] ApplicationResolution resolve(const std::string& bundleIdentifier,
@@ -55,7 +55,7 @@ private:
   const CachedInspection& inspection(const FileURL& url);
 
   const InstalledApplicationLocating& locator_;
-  ApplicationMetadataReading& metadataReader_;
+  BundleApplicationMetadataReader& metadataReader_;
   std::map<std::string, std::set<FileURL>, std::less<>> trackedLastKnownURLsByBundleIdentifier_;
   std::unordered_map<std::string, std::vector<FileURL>> cachedCandidateURLsByBundleIdentifier_;
   std::unordered_map<std::string, std::vector<CatalogApplication>>

@@ -2,7 +2,6 @@
 
 #include "base/PosixFileSystem.hpp"
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "simulation/LibplistPropertyListEncoder.hpp"
 #include "support/ApplicationBundleFixture.hpp"
 
@@ -20,9 +19,8 @@ protected:
 
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector{fileSystem};
   LibplistPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader{inspector, decoder};
+  BundleApplicationMetadataReader reader{fileSystem, decoder};
 };
 
 TEST_F(BundleApplicationMetadataReaderTest, ReadsIdentifierAndTheBestDisplayName) {
@@ -73,8 +71,8 @@ TEST_F(BundleApplicationMetadataReaderTest, WatchesTheNamedIconInsideTheResource
     const auto snapshot = reader.readSnapshot(bundles.url("Sample.app"));
     EXPECT_TRUE(snapshot.metadata.has_value());
     const auto& items = snapshot.fingerprint.items;
-    EXPECT_GE(items.size(), ApplicationBundleFileInspecting::kBundleItemCount);
-    return items.size() > ApplicationBundleFileInspecting::kBundleItemCount ? items.back().path
+    EXPECT_GE(items.size(), BundleApplicationMetadataReader::kBundleItemCount);
+    return items.size() > BundleApplicationMetadataReader::kBundleItemCount ? items.back().path
                                                                             : "";
   };
   const std::string resources = bundles.url("Sample.app/Contents/Resources").path();

@@ -3,7 +3,6 @@
 #include "base/PosixFileSystem.hpp"
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "support/ApplicationBundleFixture.hpp"
 
 #include <filesystem>
@@ -17,9 +16,8 @@ namespace {
 TEST(DirectoryScanningApplicationLocatorTest, FindsBundlesOnceWithoutEnteringThemOrLooping) {
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector(fileSystem);
   LibplistPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader(inspector, decoder);
+  BundleApplicationMetadataReader reader(fileSystem, decoder);
 
   const FileURL top = bundles.createBundle("Applications/Mail.app", "com.example.mail", "Mail");
   const FileURL nested =

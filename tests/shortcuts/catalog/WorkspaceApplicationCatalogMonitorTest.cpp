@@ -5,7 +5,6 @@
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "support/ApplicationBundleFixture.hpp"
@@ -176,9 +175,8 @@ TEST_F(WorkspaceApplicationCatalogMonitorTest, AStopFromTheChangeHandlerLeavesNo
 TEST(WorkspaceApplicationCatalogMonitorOnDiskTest, AMovedApplicationIsToldOnceAtTheNextPoll) {
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector(fileSystem);
   LibplistPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader(inspector, decoder);
+  BundleApplicationMetadataReader reader(fileSystem, decoder);
   const FileURL original =
       bundles.createBundle("Applications/Mail.app", "com.example.mail", "Mail");
   DirectoryScanningApplicationLocator locator(fileSystem, reader, bundles.root());

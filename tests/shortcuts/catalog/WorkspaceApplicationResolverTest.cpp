@@ -4,7 +4,6 @@
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "support/ApplicationBundleFixture.hpp"
 
 #include <gtest/gtest.h>
@@ -44,9 +43,8 @@ protected:
 
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector{fileSystem};
   CountingPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader{inspector, decoder};
+  BundleApplicationMetadataReader reader{fileSystem, decoder};
   DirectoryScanningApplicationLocator locator{fileSystem, reader, bundles.root()};
   WorkspaceApplicationResolver resolver{locator, reader};
 };
