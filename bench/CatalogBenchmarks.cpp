@@ -78,7 +78,7 @@ void BM_CatalogRefreshUnchanged(benchmark::State& state) {
   for (const auto& [identifier, url] : tree.applications) {
     locator.urls[identifier].push_back(url);
   }
-  WorkspaceApplicationResolver resolver(locator, reader);
+  WorkspaceApplicationResolver resolver(locator, reader, fileSystem);
   for (const auto& [identifier, url] : tree.applications) {
     (void)resolver.resolve(identifier, url);
   }

@@ -9,7 +9,7 @@ AppRuntime::AppRuntime(PlatformServices services, AppRuntimeConfiguration config
       configurationFailurePresenter_(*services_.failurePanelFactory),
       configurationReporter_(*services_.userDefaults, &configurationFailurePresenter_),
       metadataReader_(*services_.fileSystem, *services_.propertyListDecoder),
-      resolver_(*services_.applicationLocator, metadataReader_),
+      resolver_(*services_.applicationLocator, metadataReader_, *services_.fileSystem),
       catalogDistributedObserver_(*services_.distributedNotificationCenter),
       applicationCatalogMonitor_(resolver_, *services_.spotlightQuery,
                                  *services_.workspaceNotifications, catalogDistributedObserver_,

@@ -144,7 +144,7 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
   } else {
     locator = std::make_unique<InertInstalledApplicationLocator>();
   }
-  WorkspaceApplicationResolver resolver(*locator, metadataReader);
+  WorkspaceApplicationResolver resolver(*locator, metadataReader, fileSystem);
 
   auto reader = preferences.makeReader();
   ManualScheduler scheduler;

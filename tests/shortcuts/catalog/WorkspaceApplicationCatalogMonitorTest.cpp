@@ -180,7 +180,7 @@ TEST(WorkspaceApplicationCatalogMonitorOnDiskTest, AMovedApplicationIsToldOnceAt
   const FileURL original =
       bundles.createBundle("Applications/Mail.app", "com.example.mail", "Mail");
   DirectoryScanningApplicationLocator locator(fileSystem, reader, bundles.root());
-  WorkspaceApplicationResolver resolver(locator, reader);
+  WorkspaceApplicationResolver resolver(locator, reader, fileSystem);
   InertApplicationSpotlightQuery query;
   InertApplicationWorkspaceNotificationObserver workspace;
   ScriptedDistributedNotificationCenter center;
