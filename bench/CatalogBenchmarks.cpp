@@ -6,7 +6,6 @@
 #include "base/PosixFileSystem.hpp"
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "simulation/LibplistPropertyListEncoder.hpp"
 #include "simulation/TemporaryDirectory.hpp"
@@ -73,14 +72,13 @@ struct ApplicationTree {
 void BM_CatalogRefreshUnchanged(benchmark::State& state) {
   const ApplicationTree tree(static_cast<int>(state.range(0)));
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector(fileSystem);
   LibplistPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader(inspector, decoder);
+  BundleApplicationMetadataReader reader(fileSystem, decoder);
   InMemoryApplicationLocator locator;
   for (const auto& [identifier, url] : tree.applications) {
     locator.urls[identifier].push_back(url);
   }
-  WorkspaceApplicationResolver resolver(locator, reader);
+  WorkspaceApplicationResolver resolver(locator, reader, fileSystem);
   for (const auto& [identifier, url] : tree.applications) {
     (void)resolver.resolve(identifier, url);
   }

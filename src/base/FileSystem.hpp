@@ -32,6 +32,9 @@ public:
   readFile(const std::string& path, std::uint64_t maximumBytes) const = 0;
   /// Entry names (no "." or ".."), sorted; empty when the directory cannot be listed.
   [[nodiscard]] virtual std::vector<std::string> listDirectory(const std::string& path) const = 0;
+  /// The absolute path of the item itself, every symbolic link, "." and ".." resolved; absent
+  /// when a component does not exist or cannot be searched.
+  [[nodiscard]] virtual std::optional<std::string> canonicalPath(const std::string& path) const = 0;
 };
 
 } // namespace quenby

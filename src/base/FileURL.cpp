@@ -151,6 +151,16 @@ std::string FileURL::pathExtension() const {
   return name.substr(dot + 1);
 }
 
+bool FileURL::hasPathExtension(std::string_view extension) const {
+  const std::string_view path = path_;
+  const std::string_view name = path.substr(path.rfind('/') + 1);
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string_view::npos || dot == 0) {
+    return extension.empty();
+  }
+  return equalsIgnoringCase(name.substr(dot + 1), extension);
+}
+
 std::string FileURL::lastPathComponentWithoutExtension() const {
   std::string name = lastPathComponent();
   const std::size_t dot = name.rfind('.');

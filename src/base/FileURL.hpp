@@ -29,6 +29,9 @@ public:
   [[nodiscard]] std::string lastPathComponent() const;
   /// The text after the last dot of the last component; empty for none or a leading dot only.
   [[nodiscard]] std::string pathExtension() const;
+  /// True when `pathExtension()` is `extension`, ignoring ASCII case: the default volumes of a
+  /// Mac ignore case, so "Mail.APP" is as much an application bundle as "Mail.app".
+  [[nodiscard]] bool hasPathExtension(std::string_view extension) const;
   [[nodiscard]] std::string lastPathComponentWithoutExtension() const;
   [[nodiscard]] FileURL appending(std::string_view relativePath) const;
   [[nodiscard]] FileURL deletingLastPathComponent() const;

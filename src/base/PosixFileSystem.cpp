@@ -1,6 +1,7 @@
 #include "base/PosixFileSystem.hpp"
 
 #include <algorithm>
+#include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -20,6 +21,10 @@ struct FileDescriptor {
       ::close(fd);
     }
   }
+};
+
+struct MemoryFreer {
+  void operator()(char* memory) const { std::free(memory); }
 };
 
 struct DirectoryCloser {
@@ -93,6 +98,15 @@ std::vector<std::string> PosixFileSystem::listDirectory(const std::string& path)
   }
   std::sort(names.begin(), names.end());
   return names;
+}
+
+std::optional<std::string> PosixFileSystem::canonicalPath(const std::string& path) const {
+  // With a null buffer, realpath allocates one of the right size with malloc.
+  const std::unique_ptr<char, MemoryFreer> resolved(::realpath(path.c_str(), nullptr));
+  if (!resolved) {
+    return std::nullopt;
+  }
+  return std::string(resolved.get());
 }
 
 } // namespace quenby

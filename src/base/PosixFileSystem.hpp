@@ -11,6 +11,7 @@ public:
   [[nodiscard]] std::optional<std::vector<std::uint8_t>>
   readFile(const std::string& path, std::uint64_t maximumBytes) const override;
   [[nodiscard]] std::vector<std::string> listDirectory(const std::string& path) const override;
+  [[nodiscard]] std::optional<std::string> canonicalPath(const std::string& path) const override;
 };
 
 } // namespace quenby

@@ -4,9 +4,8 @@ namespace quenby {
 
 ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
                                      Options options)
-    : bundleInspector_(*base.fileSystem),
-      metadataReader_(bundleInspector_, *base.propertyListDecoder),
-      resolver_(*platform.applicationLocator, metadataReader_),
+    : metadataReader_(*base.fileSystem, *base.propertyListDecoder),
+      resolver_(*platform.applicationLocator, metadataReader_, *base.fileSystem),
       catalogDistributedObserver_(*base.distributedNotificationCenter),
       catalogMonitor_(resolver_, *platform.spotlightQuery, *platform.workspaceNotifications,
                       catalogDistributedObserver_, *base.scheduler),

@@ -3,7 +3,6 @@
 #include "base/BasePlatform.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationCatalogMonitor.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
@@ -39,7 +38,6 @@ public:
   [[nodiscard]] WorkspaceApplicationResolver& resolver() { return resolver_; }
 
 private:
-  SystemApplicationBundleFileInspector bundleInspector_;
   BundleApplicationMetadataReader metadataReader_;
   WorkspaceApplicationResolver resolver_;
   SystemApplicationCatalogDistributedObserver catalogDistributedObserver_;

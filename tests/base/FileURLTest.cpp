@@ -49,6 +49,13 @@ TEST(FileURLTest, ComponentsAndExtensions) {
   EXPECT_EQ(url.lastPathComponentWithoutExtension(), "Safari");
   EXPECT_EQ(FileURL::fromPath("/Users/x/.hidden").pathExtension(), "");
   EXPECT_EQ(FileURL::fromPath("/a/archive.tar.gz").pathExtension(), "gz");
+  for (const char* bundle : {"/A/Mail.app", "/A/Mail.APP", "/A/Mail.App", "/A/x.y.aPp"}) {
+    EXPECT_TRUE(FileURL::fromPath(bundle).hasPathExtension("app")) << bundle;
+  }
+  for (const char* other :
+       {"/A/Mail.apps", "/A/Mail.ap", "/A/app", "/A/.app", "/A/Mail.app.zip", "/A/Mailapp", "/"}) {
+    EXPECT_FALSE(FileURL::fromPath(other).hasPathExtension("app")) << other;
+  }
   EXPECT_EQ(url.appending("Contents/Info.plist").path(),
             "/Applications/Safari.app/Contents/Info.plist");
   EXPECT_EQ(url.deletingLastPathComponent().path(), "/Applications");

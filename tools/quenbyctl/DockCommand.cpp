@@ -6,7 +6,6 @@
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "shortcuts/dock/DockNumberMappingProvider.hpp"
 #include "shortcuts/dock/PropertyListFileDockPreferences.hpp"
@@ -137,8 +136,7 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
     return 1;
   }
 
-  SystemApplicationBundleFileInspector inspector(fileSystem);
-  BundleApplicationMetadataReader metadataReader(inspector, decoder);
+  BundleApplicationMetadataReader metadataReader(fileSystem, decoder);
   std::unique_ptr<InstalledApplicationLocating> locator;
   if (options.root) {
     locator = std::make_unique<DirectoryScanningApplicationLocator>(fileSystem, metadataReader,
@@ -146,7 +144,7 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
   } else {
     locator = std::make_unique<InertInstalledApplicationLocator>();
   }
-  WorkspaceApplicationResolver resolver(*locator, metadataReader);
+  WorkspaceApplicationResolver resolver(*locator, metadataReader, fileSystem);
 
   auto reader = preferences.makeReader();
   ManualScheduler scheduler;

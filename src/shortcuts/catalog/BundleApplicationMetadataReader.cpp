@@ -16,7 +16,7 @@ const std::string* nonEmptyString(const PropertyListValue& dictionary, std::stri
 // True when the fingerprint's items after the bundle's own are exactly `watched`.
 bool coversWatchedResources(const ApplicationFileFingerprint& fingerprint,
                             const std::vector<FileURL>& watched) {
-  constexpr std::size_t first = ApplicationBundleFileInspecting::kBundleItemCount;
+  constexpr std::size_t first = BundleApplicationMetadataReader::kBundleItemCount;
   if (fingerprint.items.size() != first + watched.size()) {
     return false;
   }
@@ -53,11 +53,12 @@ ApplicationMetadataSnapshot
 BundleApplicationMetadataReader::readSnapshot(const FileURL& bundleURL) {
   ApplicationMetadataSnapshot snapshot;
   // Taken before the read: a change that lands during the read then shows at the next poll.
-  snapshot.fingerprint = inspector_.fingerprint(bundleURL, watchedResourceURLs(bundleURL));
-  if (bundleURL.pathExtension() != "app") {
+  snapshot.fingerprint = fingerprint(bundleURL, watchedResourceURLs(bundleURL));
+  if (!bundleURL.hasPathExtension("app")) {
     return snapshot;
   }
-  const auto bytes = inspector_.readInfoPropertyList(bundleURL);
+  const auto bytes = fileSystem_.readFile(bundleURL.path() + "/Contents/Info.plist",
+                                          kMaximumInfoPropertyListBytes);
   if (!bytes) {
     return snapshot;
   }
@@ -73,8 +74,8 @@ BundleApplicationMetadataReader::readSnapshot(const FileURL& bundleURL) {
   if (!coversWatchedResources(snapshot.fingerprint, watched)) {
     // The read registered other resources: add theirs, keeping the bundle's own items as they
     // were before the read.
-    auto extended = inspector_.fingerprint(bundleURL, watched);
-    constexpr std::size_t own = ApplicationBundleFileInspecting::kBundleItemCount;
+    auto extended = fingerprint(bundleURL, watched);
+    constexpr std::size_t own = kBundleItemCount;
     if (extended.items.size() >= own && snapshot.fingerprint.items.size() >= own) {
       std::copy_n(snapshot.fingerprint.items.begin(), own, extended.items.begin());
       extended.bundleExists = snapshot.fingerprint.bundleExists;
@@ -88,8 +89,32 @@ BundleApplicationMetadataReader::readSnapshot(const FileURL& bundleURL) {
 
 bool BundleApplicationMetadataReader::isCurrent(
     const FileURL& bundleURL, const ApplicationFileFingerprint& fingerprint) const {
-  return coversWatchedResources(fingerprint, watchedResourceURLs(bundleURL)) &&
-         inspector_.isCurrent(fingerprint);
+  if (!coversWatchedResources(fingerprint, watchedResourceURLs(bundleURL))) {
+    return false;
+  }
+  return std::all_of(fingerprint.items.begin(), fingerprint.items.end(), [this](const auto& item) {
+    return item.matches(fileSystem_.attributes(item.path));
+  });
+}
+
+ApplicationFileFingerprint
+BundleApplicationMetadataReader::fingerprint(const FileURL& bundleURL,
+                                             const std::vector<FileURL>& extraResourceURLs) const {
+  const std::string& bundle = bundleURL.path();
+  ApplicationFileFingerprint fingerprint;
+  fingerprint.items.resize(kBundleItemCount + extraResourceURLs.size());
+  fingerprint.items[0].path = bundle;
+  fingerprint.items[1].path = bundle + "/Contents/Resources";
+  fingerprint.items[2].path = bundle + "/Contents/Info.plist";
+  fingerprint.items[3].path = bundle + "/Contents/Resources/Assets.car";
+  for (std::size_t i = 0; i < extraResourceURLs.size(); ++i) {
+    fingerprint.items[kBundleItemCount + i].path = extraResourceURLs[i].path();
+  }
+  for (auto& item : fingerprint.items) {
+    item.assign(fileSystem_.attributes(item.path));
+  }
+  fingerprint.bundleExists = fingerprint.items[0].exists && fingerprint.items[0].isDirectory;
+  return fingerprint;
 }
 
 std::string

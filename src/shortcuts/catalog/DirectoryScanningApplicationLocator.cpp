@@ -6,7 +6,7 @@
 namespace quenby {
 
 DirectoryScanningApplicationLocator::DirectoryScanningApplicationLocator(
-    const FileSystem& fileSystem, ApplicationMetadataReading& metadataReader, FileURL root)
+    const FileSystem& fileSystem, BundleApplicationMetadataReader& metadataReader, FileURL root)
     : fileSystem_(fileSystem), metadataReader_(metadataReader), root_(std::move(root)) {
   rescan();
 }
@@ -44,7 +44,7 @@ void DirectoryScanningApplicationLocator::rescan() {
       if (!attributes.isDirectory) {
         continue;
       }
-      if (entry.pathExtension() == "app") {
+      if (entry.hasPathExtension("app")) {
         if (auto metadata = metadataReader_.readMetadata(entry)) {
           urlsByBundleIdentifier_[metadata->bundleIdentifier].push_back(entry);
         }

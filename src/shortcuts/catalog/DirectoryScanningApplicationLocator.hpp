@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/FileSystem.hpp"
-#include "shortcuts/catalog/ApplicationMetadataReading.hpp"
+#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/InstalledApplicationLocating.hpp"
 
 #include <map>
@@ -18,7 +18,8 @@ namespace quenby {
 class DirectoryScanningApplicationLocator final : public InstalledApplicationLocating {
 public:
   DirectoryScanningApplicationLocator(const FileSystem& fileSystem,
-                                      ApplicationMetadataReading& metadataReader, FileURL root);
+                                      BundleApplicationMetadataReader& metadataReader,
+                                      FileURL root);
 
   /// Bundles in the order the scan met them: directory entries sorted by name, depth first.
   [[nodiscard]] std::vector<FileURL>
@@ -27,7 +28,7 @@ public:
 
 private:
   const FileSystem& fileSystem_;
-  ApplicationMetadataReading& metadataReader_;
+  BundleApplicationMetadataReader& metadataReader_;
   FileURL root_;
   std::map<std::string, std::vector<FileURL>, std::less<>> urlsByBundleIdentifier_;
 };

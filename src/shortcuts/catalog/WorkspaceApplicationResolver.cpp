@@ -8,19 +8,21 @@ ApplicationResolution WorkspaceApplicationResolver::resolve(const std::string& b
                                                             const FileURL& lastKnownURL) {
   auto tracked = trackedLastKnownURLsByBundleIdentifier_.find(bundleIdentifier);
   if (tracked == trackedLastKnownURLsByBundleIdentifier_.end()) {
-    tracked = trackedLastKnownURLsByBundleIdentifier_.emplace(bundleIdentifier, std::set<FileURL>{})
-                  .first;
+    tracked =
+        trackedLastKnownURLsByBundleIdentifier_.emplace(bundleIdentifier, LastKnownURLs{}).first;
   }
-  tracked->second.insert(lastKnownURL);
+  const auto& leadsTo = tracked->second.try_emplace(lastKnownURL).first->second;
+  const FileURL& lastKnownLocation = leadsTo ? *leadsTo : lastKnownURL;
 
   const auto& copies = verifiedApplications(bundleIdentifier);
   if (copies.empty()) {
     return ApplicationResolution::notFound();
   }
-  // The last-known location wins over every other copy.
+  // The last-known location wins over every other copy. It keeps the caller's name, so that a
+  // Dock item at a link goes on naming the link.
   for (const auto& copy : copies) {
-    if (copy.url == lastKnownURL) {
-      return ApplicationResolution::resolved(copy.url);
+    if (copy.url == lastKnownLocation) {
+      return ApplicationResolution::resolved(lastKnownURL);
     }
   }
   if (copies.size() == 1) {
@@ -37,7 +39,7 @@ ApplicationResolution WorkspaceApplicationResolver::resolve(const std::string& b
 void WorkspaceApplicationResolver::refreshCatalog(const CandidateMap* spotlightCandidates) {
   ++refreshCount_;
   bool changed = false;
-  for (const auto& [bundleIdentifier, lastKnownURLs] : trackedLastKnownURLsByBundleIdentifier_) {
+  for (auto& [bundleIdentifier, lastKnownURLs] : trackedLastKnownURLsByBundleIdentifier_) {
     changed = refreshBundle(bundleIdentifier, lastKnownURLs, spotlightCandidates) || changed;
   }
   std::erase_if(cachedInspectionsByURL_, [this](const auto& entry) {
@@ -56,7 +58,7 @@ WorkspaceApplicationResolver::verifiedApplications(const std::string& bundleIden
 }
 
 bool WorkspaceApplicationResolver::refreshBundle(const std::string& bundleIdentifier,
-                                                 const std::set<FileURL>& lastKnownURLs,
+                                                 LastKnownURLs& lastKnownURLs,
                                                  const CandidateMap* spotlightCandidates) {
   auto& candidates = cachedCandidateURLsByBundleIdentifier_[bundleIdentifier];
   const std::vector<FileURL>* spotlight = nullptr;
@@ -65,26 +67,29 @@ bool WorkspaceApplicationResolver::refreshBundle(const std::string& bundleIdenti
     spotlight = found == spotlightCandidates->end() ? nullptr : &found->second;
   }
   if (spotlight != nullptr) {
-    if (candidates != *spotlight) {
-      candidates = *spotlight;
-    }
-  } else if (auto located = locator_.applicationURLs(bundleIdentifier); located != candidates) {
-    candidates = std::move(located);
+    takeCandidates(candidates, *spotlight);
+  } else {
+    takeCandidates(candidates, locator_.applicationURLs(bundleIdentifier));
   }
 
   urlsToVerify_.clear();
-  const auto addOnce = [this](const FileURL& url) {
-    if (std::none_of(urlsToVerify_.begin(), urlsToVerify_.end(),
-                     [&url](const FileURL* added) { return *added == url; })) {
-      urlsToVerify_.push_back(&url);
+  for (const auto& url : candidates.canonical) {
+    urlsToVerify_.push_back(&url);
+  }
+  for (auto& [url, leadsTo] : lastKnownURLs) {
+    // Resolved once. A location that led nowhere is tried again once something is there, which
+    // a poll can tell from its attributes alone.
+    if (!leadsTo && fileSystem_.attributes(url.path()).exists) {
+      leadsTo = canonicalURL(url);
     }
-  };
-  for (const auto& url : candidates) {
-    addOnce(url);
+    urlsToVerify_.push_back(leadsTo ? &*leadsTo : &url);
   }
-  for (const auto& url : lastKnownURLs) {
-    addOnce(url);
-  }
+  // Sorted, so that the same copies found in another order are the same catalog.
+  std::sort(urlsToVerify_.begin(), urlsToVerify_.end(),
+            [](const FileURL* a, const FileURL* b) { return *a < *b; });
+  urlsToVerify_.erase(std::unique(urlsToVerify_.begin(), urlsToVerify_.end(),
+                                  [](const FileURL* a, const FileURL* b) { return *a == *b; }),
+                      urlsToVerify_.end());
 
   verified_.clear();
   for (const FileURL* url : urlsToVerify_) {
@@ -110,6 +115,30 @@ bool WorkspaceApplicationResolver::refreshBundle(const std::string& bundleIdenti
   }
   cached = std::move(applications);
   return true;
+}
+
+void WorkspaceApplicationResolver::takeCandidates(CandidateURLs& candidates,
+                                                  const std::vector<FileURL>& reported) const {
+  if (candidates.reported == reported) {
+    return;
+  }
+  candidates.reported = reported;
+  candidates.canonical.clear();
+  for (const auto& url : reported) {
+    // A location that leads nowhere stays as reported: verification turns it down.
+    candidates.canonical.push_back(canonicalURL(url).value_or(url));
+  }
+  std::sort(candidates.canonical.begin(), candidates.canonical.end());
+  candidates.canonical.erase(std::unique(candidates.canonical.begin(), candidates.canonical.end()),
+                             candidates.canonical.end());
+}
+
+std::optional<FileURL> WorkspaceApplicationResolver::canonicalURL(const FileURL& url) const {
+  auto path = fileSystem_.canonicalPath(url.path());
+  if (!path) {
+    return std::nullopt;
+  }
+  return FileURL::fromPath(*path);
 }
 
 const WorkspaceApplicationResolver::CachedInspection&

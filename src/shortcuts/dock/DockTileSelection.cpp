@@ -170,7 +170,7 @@ std::vector<PinnedTile> selectPinnedTiles(const PropertyListValue::Array& items,
     // Without an identifier only an application bundle is worth a position (documents and
     // unreadable entries are not); an item with no tile data at all still takes its position so
     // that the user learns why that digit does nothing.
-    if (!bundleIdentifier && tileData && (!url || !equalsLowered(url->pathExtension(), "app"))) {
+    if (!bundleIdentifier && tileData && (!url || !url->hasPathExtension("app"))) {
       continue;
     }
     const auto label = dockText(tileData ? tileData->find("file-label") : nullptr);

@@ -2,7 +2,6 @@
 
 #include "base/PosixFileSystem.hpp"
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "simulation/LibplistPropertyListEncoder.hpp"
 #include "support/ApplicationBundleFixture.hpp"
 
@@ -20,9 +19,8 @@ protected:
 
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector{fileSystem};
   LibplistPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader{inspector, decoder};
+  BundleApplicationMetadataReader reader{fileSystem, decoder};
 };
 
 TEST_F(BundleApplicationMetadataReaderTest, ReadsIdentifierAndTheBestDisplayName) {
@@ -54,7 +52,12 @@ TEST_F(BundleApplicationMetadataReaderTest, ReadsIdentifierAndTheBestDisplayName
                         PropertyListValue::Dictionary{{"CFBundleIdentifier", "com.example.xml"}}));
   EXPECT_EQ(reader.readMetadata(bundles.url("Sample.app"))->bundleIdentifier, "com.example.xml");
 
-  // Only ".app" bundles are applications.
+  // Only ".app" bundles are applications, whatever the case of the extension.
+  for (const char* name : {"Upper.APP", "Mixed.App"}) {
+    const auto found = reader.readMetadata(bundles.createBundle(name, "com.example.case", "Case"));
+    ASSERT_TRUE(found.has_value()) << name;
+    EXPECT_EQ(found->bundleIdentifier, "com.example.case");
+  }
   bundles.createBundle("Plugin.bundle", "com.example.plugin", "Plugin");
   EXPECT_FALSE(reader.readMetadata(bundles.url("Plugin.bundle")).has_value());
   EXPECT_FALSE(reader.readMetadata(bundles.url("Missing.app")).has_value());
@@ -68,8 +71,8 @@ TEST_F(BundleApplicationMetadataReaderTest, WatchesTheNamedIconInsideTheResource
     const auto snapshot = reader.readSnapshot(bundles.url("Sample.app"));
     EXPECT_TRUE(snapshot.metadata.has_value());
     const auto& items = snapshot.fingerprint.items;
-    EXPECT_GE(items.size(), ApplicationBundleFileInspecting::kBundleItemCount);
-    return items.size() > ApplicationBundleFileInspecting::kBundleItemCount ? items.back().path
+    EXPECT_GE(items.size(), BundleApplicationMetadataReader::kBundleItemCount);
+    return items.size() > BundleApplicationMetadataReader::kBundleItemCount ? items.back().path
                                                                             : "";
   };
   const std::string resources = bundles.url("Sample.app/Contents/Resources").path();

@@ -5,7 +5,6 @@
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "support/ApplicationBundleFixture.hpp"
@@ -140,16 +139,36 @@ TEST_F(WorkspaceApplicationCatalogMonitorTest, EveryTriggerRefreshesAndEachRevis
   EXPECT_EQ(changes, 2);
 }
 
+TEST_F(WorkspaceApplicationCatalogMonitorTest, AStopFromTheChangeHandlerLeavesNoPollBehind) {
+  // The first revision is told during start(), before the poll would be armed.
+  monitor.setOnChange([this] {
+    ++changes;
+    monitor.stop();
+  });
+  monitor.start();
+  EXPECT_EQ(changes, 1);
+  EXPECT_FALSE(monitor.isRunning());
+  EXPECT_EQ(scheduler.pendingCount(), 0u);
+
+  // Deliveries that were already on their way when it stopped arm nothing either.
+  catalog.pendingChanges = 1;
+  query.deliver({});
+  workspace.post();
+  postEveryLaunchServicesNotification();
+  scheduler.advanceBy(WorkspaceApplicationCatalogMonitor::kPollInterval * 4);
+  EXPECT_EQ(catalog.refreshes, 1);
+  EXPECT_EQ(scheduler.pendingCount(), 0u);
+}
+
 TEST(WorkspaceApplicationCatalogMonitorOnDiskTest, AMovedApplicationIsToldOnceAtTheNextPoll) {
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector(fileSystem);
   LibplistPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader(inspector, decoder);
+  BundleApplicationMetadataReader reader(fileSystem, decoder);
   const FileURL original =
       bundles.createBundle("Applications/Mail.app", "com.example.mail", "Mail");
   DirectoryScanningApplicationLocator locator(fileSystem, reader, bundles.root());
-  WorkspaceApplicationResolver resolver(locator, reader);
+  WorkspaceApplicationResolver resolver(locator, reader, fileSystem);
   InertApplicationSpotlightQuery query;
   InertApplicationWorkspaceNotificationObserver workspace;
   ScriptedDistributedNotificationCenter center;

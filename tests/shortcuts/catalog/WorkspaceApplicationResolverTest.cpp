@@ -1,12 +1,12 @@
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 
-#include "base/PosixFileSystem.hpp"
 #include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/catalog/SystemApplicationBundleFileInspector.hpp"
 #include "support/ApplicationBundleFixture.hpp"
+#include "support/CountingFileSystem.hpp"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace quenby {
@@ -43,12 +43,11 @@ protected:
   static constexpr const char* kEditor = "com.example.editor";
 
   ApplicationBundleFixture bundles;
-  PosixFileSystem fileSystem;
-  SystemApplicationBundleFileInspector inspector{fileSystem};
+  CountingFileSystem fileSystem;
   CountingPropertyListDecoder decoder;
-  BundleApplicationMetadataReader reader{inspector, decoder};
+  BundleApplicationMetadataReader reader{fileSystem, decoder};
   DirectoryScanningApplicationLocator locator{fileSystem, reader, bundles.root()};
-  WorkspaceApplicationResolver resolver{locator, reader};
+  WorkspaceApplicationResolver resolver{locator, reader, fileSystem};
 };
 
 TEST_F(WorkspaceApplicationResolverTest, LastKnownCopyWinsAndOtherwiseSeveralCopiesAreAmbiguous) {
@@ -123,13 +122,73 @@ TEST_F(WorkspaceApplicationResolverTest, UnchangedBundlesAreNeverDecodedAgain) {
   // One read per bundle, although the read adds the icon to what the fingerprint covers.
   EXPECT_EQ(decodesDuring([&] { resolver.refreshCatalog(nullptr); }), 3);
   const std::uint64_t revision = resolver.catalogRevision();
+  // A last-known location with nothing there is looked at, never resolved or read.
+  (void)resolver.resolve("com.example.a", bundles.url("Gone/a.app"));
+  resolver.refreshCatalog(nullptr);
   EXPECT_EQ(decodesDuring([&] {
-              for (int i = 0; i < 20; ++i) {
-                resolver.refreshCatalog(nullptr);
-              }
+              // Each bundle's four own items and its icon, and the missing bundle's own items
+              // plus one look whether it has appeared; nothing else.
+              EXPECT_EQ(fileSystem.during([&] {
+                for (int i = 0; i < 20; ++i) {
+                  resolver.refreshCatalog(nullptr);
+                }
+              }),
+                        (CountingFileSystem::Calls{.attributes = 20 * (3 * 5 + 4 + 1)}));
             }),
             0);
   EXPECT_EQ(resolver.catalogRevision(), revision);
+}
+
+TEST_F(WorkspaceApplicationResolverTest, SpotlightOrderAndLinkedPathsLeaveTheCatalogAlone) {
+  // Laid out as the system lays out some of its own applications: the bundle deep inside a
+  // system volume, a link to it in the applications folder, and the Dock naming the link.
+  const FileURL sealed = create("Cryptexes/App/Applications/Editor.app", kEditor);
+  const FileURL backup = create("Backup/Editor.app", kEditor);
+  const FileURL linked = bundles.url("Applications/Editor.app");
+  std::filesystem::create_directories(bundles.root().path() + "/Applications");
+  std::filesystem::create_directory_symlink(sealed.path(), linked.path());
+  locator.rescan();
+  ASSERT_EQ(locator.applicationURLs(kEditor), (std::vector<FileURL>{linked, backup, sealed}));
+
+  const FileURL elsewhere = bundles.url("Old/Editor.app");
+  (void)resolver.resolve(kEditor, linked);
+  (void)resolver.resolve(kEditor, elsewhere);
+  resolver.refreshCatalog(nullptr);
+  const std::uint64_t revision = resolver.catalogRevision();
+  const auto expectSteady = [&](const std::string& step) {
+    EXPECT_EQ(resolver.catalogRevision(), revision) << step;
+    EXPECT_EQ(resolver.resolve(kEditor, linked), ApplicationResolution::resolved(linked)) << step;
+    EXPECT_EQ(resolver.resolve(kEditor, elsewhere),
+              ApplicationResolution::ambiguous({backup, sealed}))
+        << step;
+  };
+  expectSteady("located");
+
+  const std::vector<std::vector<FileURL>> deliveries{
+      {sealed, backup}, {backup, sealed}, {linked, backup}, {backup, linked, sealed, backup}};
+  EXPECT_EQ(decodesDuring([&] {
+              for (const auto& delivery : deliveries) {
+                const ApplicationCandidateMap spotlight{{kEditor, delivery}};
+                resolver.refreshCatalog(&spotlight);
+                expectSteady("Spotlight, " + std::to_string(delivery.size()) + " results");
+                resolver.refreshCatalog(nullptr);
+                expectSteady("located again");
+              }
+            }),
+            0);
+  // Links are resolved when a source's list changes, not at every poll.
+  EXPECT_EQ(fileSystem.during([&] { resolver.refreshCatalog(nullptr); }).canonicalPath, 0);
+
+  // With one copy left both sources agree on it, and the Dock's link still resolves to itself.
+  bundles.remove("Backup/Editor.app");
+  locator.rescan();
+  resolver.refreshCatalog(nullptr);
+  EXPECT_EQ(resolver.catalogRevision(), revision + 1);
+  const ApplicationCandidateMap spotlight{{kEditor, {sealed}}};
+  resolver.refreshCatalog(&spotlight);
+  EXPECT_EQ(resolver.catalogRevision(), revision + 1);
+  EXPECT_EQ(resolver.resolve(kEditor, linked), ApplicationResolution::resolved(linked));
+  EXPECT_EQ(resolver.resolve(kEditor, elsewhere), ApplicationResolution::resolved(sealed));
 }
 
 TEST_F(WorkspaceApplicationResolverTest, AChangedFileIsReadOnceAndChangesTheCatalog) {

@@ -2,7 +2,9 @@
 // Start and stop on the main thread; gathering and update notifications are delivered on the
 // main queue. The query and its observers live from start to stop (or destruction). The handler
 // is owned here and held weakly by the notification blocks, so a notification already queued
-// when the query stops delivers nothing.
+// when the query stops delivers nothing. A query that Spotlight refuses to start is logged and
+// left stopped (a later start tries again); the catalog then relies on Launch Services and its
+// poll.
 
 #include "shortcuts/catalog/macos/SystemApplicationSpotlightQuery.hpp"
 
@@ -10,6 +12,8 @@
 
 #import <CoreServices/CoreServices.h>
 #import <Foundation/Foundation.h>
+#include <os/log.h>
+#include <string>
 #include <utility>
 
 namespace quenby {
@@ -17,6 +21,19 @@ namespace quenby {
 namespace {
 
 constexpr NSTimeInterval kBatchingInterval = 0.25;
+constexpr const char* kFallbackSubsystem = "com.brimfold.Quenby";
+
+// The adapter has no logger of the core's, and a refused start is rare enough to open a log
+// handle for it alone.
+void logRefusedStart() {
+  std::string subsystem = kFallbackSubsystem;
+  if (NSString* identifier = NSBundle.mainBundle.bundleIdentifier) {
+    subsystem = utf8String(identifier).value_or(subsystem);
+  }
+  os_log_with_type(os_log_create(subsystem.c_str(), "Catalog"), OS_LOG_TYPE_ERROR,
+                   "Spotlight refused to start the application query; installed applications "
+                   "are found through Launch Services alone");
+}
 
 // Reads every result with live updates held back, so the result list cannot change mid-read.
 ApplicationCandidateMap candidates(NSMetadataQuery* query) {
@@ -89,7 +106,10 @@ void SystemApplicationSpotlightQuery::start(ResultsHandler resultsHandler) {
                                                   usingBlock:deliver]];
   }
   running_ = std::move(running);
-  [query startQuery];
+  if (![query startQuery]) {
+    logRefusedStart();
+    stop();
+  }
 }
 
 void SystemApplicationSpotlightQuery::stop() {
