@@ -12,6 +12,7 @@ BasePlatform BasePlatform::inert() {
       .userDefaults = std::make_shared<InMemoryKeyValueStore>(),
       .scheduler = scheduler,
       .clock = scheduler,
+      .wallClock = std::make_shared<FollowingWallClock>(scheduler, kInertStart),
       .localizer = std::make_shared<EnglishLocalizer>(),
       .logger = std::make_shared<NullLogger>(),
       .fileSystem = std::make_shared<PosixFileSystem>(),

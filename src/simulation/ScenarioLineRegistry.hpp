@@ -2,10 +2,9 @@
 
 #include "simulation/ScenarioContext.hpp"
 
-#include <nlohmann/json.hpp>
-
 #include <functional>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <vector>

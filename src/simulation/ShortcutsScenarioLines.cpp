@@ -94,10 +94,10 @@ void writeState(const ScenarioContext& context, AppRuntime* runtime,
   auto dock = nlohmann::ordered_json::array();
   for (int position = NumberMappingEntries::kFirstPosition;
        position <= NumberMappingEntries::kLastPosition; ++position) {
-    dock.push_back(dockPositionJSON(position, current.entries.at(position),
-                                    [&context](const FileURL& url) {
-                                      return context.world().scriptPath(url.path());
-                                    }));
+    dock.push_back(
+        dockPositionJSON(position, current.entries.at(position), [&context](const FileURL& url) {
+          return context.world().scriptPath(url.path());
+        }));
   }
   fields["dock"] = std::move(dock);
   fields["dockRevision"] = current.revision;
@@ -110,8 +110,8 @@ void registerShortcutsScenarioLines(ScenarioLineRegistry& registry) {
   registry.addLine("app", appLine);
   registry.addLine("app-plist", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 3, 3, "app-plist PATH FILE");
-    context.world().applications().installWithPropertyList(
-        context.diskURL(arguments[1]), context.resolveScriptFile(arguments[2]));
+    context.world().applications().installWithPropertyList(context.diskURL(arguments[1]),
+                                                           context.resolveScriptFile(arguments[2]));
   });
   registry.addLine("app-remove", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 2, 2, "app-remove PATH");

@@ -14,6 +14,7 @@ BasePlatform simulatedBase(SimulatedWorld& world, const ScenarioEventRecorder& r
       .userDefaults = std::make_shared<RecordingKeyValueStore>(world.defaults(), recorder),
       .scheduler = world.scheduler(),
       .clock = world.scheduler(),
+      .wallClock = world.wallClock(),
       .localizer = std::make_shared<EnglishLocalizer>(),
       .logger = std::make_shared<SimulatedLogger>(recorder),
       .fileSystem = world.fileSystem(),

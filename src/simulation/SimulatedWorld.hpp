@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/BasePlatform.hpp"
 #include "base/Environment.hpp"
 #include "base/Geometry.hpp"
 #include "base/InMemoryKeyValueStore.hpp"
@@ -45,6 +46,8 @@ public:
 
   [[nodiscard]] const std::shared_ptr<InMemoryKeyValueStore>& defaults() const { return defaults_; }
   [[nodiscard]] const std::shared_ptr<ManualScheduler>& scheduler() const { return scheduler_; }
+  /// Calendar time on the world's virtual time, the same across relaunches.
+  [[nodiscard]] const std::shared_ptr<WallClock>& wallClock() const { return wallClock_; }
 
   [[nodiscard]] const std::shared_ptr<PosixFileSystem>& fileSystem() const { return fileSystem_; }
   [[nodiscard]] const std::shared_ptr<LibplistPropertyListDecoder>& decoder() const {
@@ -73,6 +76,8 @@ private:
   TemporaryDirectory disk_;
   std::shared_ptr<InMemoryKeyValueStore> defaults_ = std::make_shared<InMemoryKeyValueStore>();
   std::shared_ptr<ManualScheduler> scheduler_ = std::make_shared<ManualScheduler>();
+  std::shared_ptr<WallClock> wallClock_ =
+      std::make_shared<FollowingWallClock>(scheduler_, BasePlatform::kInertStart);
   std::shared_ptr<PosixFileSystem> fileSystem_ = std::make_shared<PosixFileSystem>();
   std::shared_ptr<LibplistPropertyListDecoder> decoder_ =
       std::make_shared<LibplistPropertyListDecoder>();

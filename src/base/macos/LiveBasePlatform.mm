@@ -18,6 +18,7 @@ BasePlatform makeLiveBasePlatform() {
       .userDefaults = std::make_shared<UserDefaultsKeyValueStore>(),
       .scheduler = std::make_shared<MainQueueScheduler>(),
       .clock = std::make_shared<SteadyMonotonicClock>(),
+      .wallClock = std::make_shared<SystemWallClock>(),
       .localizer = std::make_shared<BundleLocalizer>(),
       .logger = std::make_shared<OSLogLogger>(),
       .fileSystem = std::make_shared<PosixFileSystem>(),
