@@ -45,7 +45,7 @@ foreach(source IN LISTS QUENBY_MACOS_SOURCES)
     COMMENT "Syntax-checking ${relative}"
     VERBATIM)
   list(APPEND stamps ${stamp})
-  if(QUENBY_BUILD_TESTS)
+  if(QUENBY_WITH_TESTS)
     add_test(NAME "macos-syntax/${relative}"
              COMMAND ${QUENBY_OBJCXX_CHECKER} ${QUENBY_OBJCXX_CHECK_FLAGS} ${source})
   endif()

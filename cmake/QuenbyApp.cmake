@@ -35,3 +35,22 @@ target_link_libraries(Quenby PRIVATE
   "-framework Foundation"
   "-framework QuartzCore"
   "-framework ServiceManagement")
+
+# The linker signs only the executable, under the executable's name. codesign seals the whole
+# bundle (Info.plist and resources included) under the bundle identifier, which is what the
+# Accessibility and Input Monitoring lists show and check. An ad-hoc signature ("-") still pins the
+# code hash, so a grant lasts until the next rebuild; a certificate identity (an Apple Development
+# one is enough) pins identifier and certificate instead, and grants then survive rebuilds.
+set(QUENBY_CODESIGN_IDENTITY "-" CACHE STRING "codesign identity for Quenby.app (\"-\": ad hoc)")
+set(QUENBY_BUNDLE_IDENTIFIER com.brimfold.Quenby)
+find_program(QUENBY_CODESIGN codesign)
+if(QUENBY_CODESIGN)
+  add_custom_command(TARGET Quenby POST_BUILD
+    COMMAND ${QUENBY_CODESIGN} --force --sign ${QUENBY_CODESIGN_IDENTITY}
+            --identifier ${QUENBY_BUNDLE_IDENTIFIER} $<TARGET_BUNDLE_DIR:Quenby>
+    COMMENT "Signing Quenby.app (identity ${QUENBY_CODESIGN_IDENTITY})"
+    VERBATIM)
+else()
+  message(STATUS "codesign not found: Quenby.app is not signed after linking (it keeps the "
+                 "linker's signature)")
+endif()

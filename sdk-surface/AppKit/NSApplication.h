@@ -22,6 +22,9 @@ NS_ENUM(NSInteger, NSApplicationActivationPolicy){
 @optional
 - (void)applicationDidFinishLaunching:(NSNotification*)notification;
 - (void)applicationWillTerminate:(NSNotification*)notification;
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag;
+// macOS 12 and later.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)app;
 @end
 
 @interface NSApplication : NSResponder

@@ -10,7 +10,7 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSFont;
 
 @interface NSControl : NSView
-@property(nullable, strong) NSFont* font;
+@property(nullable, copy) NSFont* font;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -19,10 +19,12 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly, strong) NSNotificationCenter* notificationCenter;
 @end
 
-APPKIT_EXTERN NSNotificationName const NSWorkspaceDidMountNotification;
-APPKIT_EXTERN NSNotificationName const NSWorkspaceDidUnmountNotification;
+// AppKit declares these four as plain variables and only the rename notification const: kept so,
+// the syntax check sees the types a Mac build sees.
+APPKIT_EXTERN NSNotificationName NSWorkspaceDidMountNotification;
+APPKIT_EXTERN NSNotificationName NSWorkspaceDidUnmountNotification;
 APPKIT_EXTERN NSNotificationName const NSWorkspaceDidRenameVolumeNotification;
-APPKIT_EXTERN NSNotificationName const NSWorkspaceDidLaunchApplicationNotification;
-APPKIT_EXTERN NSNotificationName const NSWorkspaceDidTerminateApplicationNotification;
+APPKIT_EXTERN NSNotificationName NSWorkspaceDidLaunchApplicationNotification;
+APPKIT_EXTERN NSNotificationName NSWorkspaceDidTerminateApplicationNotification;
 
 NS_ASSUME_NONNULL_END

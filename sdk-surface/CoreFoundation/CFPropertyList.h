@@ -15,8 +15,8 @@ enum CFPropertyListFormat : CFIndex {
   kCFPropertyListBinaryFormat_v1_0 = 200
 };
 
-// CFPropertyListMutabilityOptions
-enum : CFOptionFlags { kCFPropertyListImmutable = 0 };
+typedef CFOptionFlags CFPropertyListMutabilityOptions;
+enum : CFPropertyListMutabilityOptions { kCFPropertyListImmutable = 0 };
 
 // Create rule: the result is owned by the caller, as is the error when one is returned.
 CF_RETURNS_RETAINED CFPropertyListRef _Nullable CFPropertyListCreateWithData(

@@ -4,7 +4,15 @@
 
 #include <stdbool.h>
 
-#if defined(__arm64__) || defined(__aarch64__)
+// Apple targets' compilers name the BOOL they use; elsewhere it follows the architecture as on a
+// Mac: bool on arm64, signed char on x86_64.
+#if defined(__OBJC_BOOL_IS_BOOL)
+#if __OBJC_BOOL_IS_BOOL
+typedef bool BOOL;
+#else
+typedef signed char BOOL;
+#endif
+#elif defined(__arm64__) || defined(__aarch64__)
 typedef bool BOOL;
 #else
 typedef signed char BOOL;

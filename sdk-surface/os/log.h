@@ -13,13 +13,13 @@ extern "C" {
 
 OS_OBJECT_DECL(os_log);
 
-enum os_log_type_t : uint8_t {
+typedef enum : uint8_t {
   OS_LOG_TYPE_DEFAULT = 0x00,
   OS_LOG_TYPE_INFO = 0x01,
   OS_LOG_TYPE_DEBUG = 0x02,
   OS_LOG_TYPE_ERROR = 0x10,
   OS_LOG_TYPE_FAULT = 0x11,
-};
+} os_log_type_t;
 
 os_log_t os_log_create(const char* subsystem, const char* category);
 

@@ -39,8 +39,12 @@ void AppLaunchController::showSettings() {
   }
 }
 
-AppSettingsCommandBridge AppLaunchController::settingsCommand(const Localizer& localizer) {
-  return AppSettingsCommandBridge::make(localizer, [this] { showSettings(); });
+bool AppLaunchController::handleReopen() {
+  if (!coordinator_) {
+    return true;
+  }
+  coordinator_->showSettings();
+  return false;
 }
 
 } // namespace quenby

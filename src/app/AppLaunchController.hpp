@@ -2,7 +2,6 @@
 
 #include "app/AppCoordinating.hpp"
 #include "app/AppLaunchContext.hpp"
-#include "app/AppSettingsCommandBridge.hpp"
 #include "app/StatusItemPresenting.hpp"
 
 #include <functional>
@@ -29,7 +28,10 @@ public:
   void applicationWillTerminate();
   /// The Settings command; does nothing before launch has finished or after termination.
   void showSettings();
-  [[nodiscard]] AppSettingsCommandBridge settingsCommand(const Localizer& localizer);
+  /// Opening the application again while it runs (Finder, the Dock, Spotlight) shows Settings.
+  /// Returns whether the platform should still do its own reopen handling: only when the request
+  /// found nothing running to take it, before launch has finished or after termination.
+  [[nodiscard]] bool handleReopen();
 
   [[nodiscard]] const AppLaunchContext& launchContext() const { return launchContext_; }
   [[nodiscard]] AppCoordinating* coordinator() const { return coordinator_.get(); }

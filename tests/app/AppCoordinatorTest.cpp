@@ -185,11 +185,22 @@ TEST(AppLaunchControllerTest, UnderATestHostStartsTheCoordinatorWithoutAStatusIt
   controller.applicationDidFinishLaunching();
   EXPECT_FALSE(controller.hasStatusItem());
   EXPECT_THAT(calls, ElementsAre("make coordinator", "start"));
-  const auto command = controller.settingsCommand(EnglishLocalizer());
-  EXPECT_EQ(command.title, "Settings");
-  EXPECT_EQ(command.keyEquivalent, ',');
-  command.showSettingsHandler();
-  EXPECT_EQ(calls.back(), "showSettings");
+}
+
+// Reopening shows Settings while the coordinator runs and then tells the platform it was handled;
+// before launch or after termination nothing here can show anything, so the platform's own reopen
+// must go ahead.
+TEST(AppLaunchControllerTest, ReopenShowsSettingsOnlyWhileRunning) {
+  std::vector<std::string> calls;
+  auto controller = makeController(calls, {.includesMenuBarExtra = false});
+  EXPECT_TRUE(controller.handleReopen());
+  controller.applicationDidFinishLaunching();
+  EXPECT_FALSE(controller.handleReopen());
+  EXPECT_FALSE(controller.handleReopen());
+  controller.applicationWillTerminate();
+  EXPECT_TRUE(controller.handleReopen());
+  EXPECT_THAT(calls,
+              ElementsAre("make coordinator", "start", "showSettings", "showSettings", "stop"));
 }
 
 TEST(AppRuntimeTest, RealGraphStartsAndStopsOnInertPlatform) {

@@ -45,35 +45,56 @@ bool inMacOSFolder(const fs::path& path) {
   return false;
 }
 
-TEST(MacOSLayerTest, InfoPlistTemplateDescribesAnAccessoryBundle) {
+// The bundle's Info.plist as CMake writes it, with every version placeholder filled in.
+PropertyListValue infoPlist(int* substituted = nullptr) {
   std::string text = contents(kSourceDir / "resources/Info.plist.in");
   const std::string placeholder = "@PROJECT_VERSION@";
-  int substituted = 0;
+  int count = 0;
   for (auto at = text.find(placeholder); at != std::string::npos; at = text.find(placeholder)) {
     text.replace(at, placeholder.size(), "1.2.3");
-    ++substituted;
+    ++count;
   }
-  EXPECT_EQ(substituted, 2);
-
+  if (substituted != nullptr) {
+    *substituted = count;
+  }
   const std::vector<std::uint8_t> bytes(text.begin(), text.end());
-  const auto plist = LibplistPropertyListDecoder().decode(bytes);
-  ASSERT_TRUE(plist.hasValue()) << plist.error().message;
-  const auto stringAt = [&](std::string_view key) -> std::string {
-    const PropertyListValue* value = plist->find(key);
-    return value != nullptr && value->string() != nullptr ? *value->string() : "<missing>";
-  };
-  EXPECT_EQ(stringAt("CFBundleIdentifier"), "com.brimfold.Quenby");
-  EXPECT_EQ(stringAt("CFBundleExecutable"), "Quenby");
-  EXPECT_EQ(stringAt("CFBundleName"), "Quenby");
-  EXPECT_EQ(stringAt("CFBundlePackageType"), "APPL");
-  EXPECT_EQ(stringAt("LSMinimumSystemVersion"), "13.0");
-  EXPECT_EQ(stringAt("CFBundleShortVersionString"), "1.2.3");
-  EXPECT_EQ(stringAt("CFBundleVersion"), "1.2.3");
+  auto plist = LibplistPropertyListDecoder().decode(bytes);
+  EXPECT_TRUE(plist.hasValue()) << plist.error().message;
+  return plist.hasValue() ? *plist : PropertyListValue(PropertyListValue::Dictionary{});
+}
+
+std::string stringAt(const PropertyListValue& plist, std::string_view key) {
+  const PropertyListValue* value = plist.find(key);
+  return value != nullptr && value->string() != nullptr ? *value->string() : "<missing>";
+}
+
+TEST(MacOSLayerTest, InfoPlistTemplateDescribesAnAccessoryBundle) {
+  int substituted = 0;
+  const PropertyListValue plist = infoPlist(&substituted);
+  EXPECT_EQ(substituted, 2);
+  EXPECT_EQ(stringAt(plist, "CFBundleIdentifier"), "com.brimfold.Quenby");
+  EXPECT_EQ(stringAt(plist, "CFBundleExecutable"), "Quenby");
+  EXPECT_EQ(stringAt(plist, "CFBundleName"), "Quenby");
+  EXPECT_EQ(stringAt(plist, "CFBundlePackageType"), "APPL");
+  EXPECT_EQ(stringAt(plist, "LSMinimumSystemVersion"), "13.0");
+  EXPECT_EQ(stringAt(plist, "CFBundleShortVersionString"), "1.2.3");
+  EXPECT_EQ(stringAt(plist, "CFBundleVersion"), "1.2.3");
   // A Boolean, not the string "YES": Launch Services ignores the wrong kind.
-  const PropertyListValue* agent = plist->find("LSUIElement");
+  const PropertyListValue* agent = plist.find("LSUIElement");
   ASSERT_NE(agent, nullptr);
   ASSERT_NE(agent->boolean(), nullptr);
   EXPECT_TRUE(*agent->boolean());
+}
+
+// The privacy settings list and check the signature's identifier: signed under any other name,
+// the bundle would ask for its permissions as a stranger to its own Info.plist.
+TEST(MacOSLayerTest, BundleIsSignedUnderItsBundleIdentifier) {
+  const std::string build = contents(kSourceDir / "cmake/QuenbyApp.cmake");
+  std::smatch identifier;
+  ASSERT_TRUE(std::regex_search(build, identifier,
+                                std::regex(R"(set\(QUENBY_BUNDLE_IDENTIFIER\s+([^\s)]+)\))")));
+  EXPECT_EQ(identifier[1].str(), stringAt(infoPlist(), "CFBundleIdentifier"));
+  EXPECT_NE(build.find("--identifier ${QUENBY_BUNDLE_IDENTIFIER}"), std::string::npos);
 }
 
 TEST(MacOSLayerTest, AppleFrameworksStayInsideTheMacOSFolders) {

@@ -1,8 +1,6 @@
 // Objective-C++: include only from .mm files.
 #pragma once
 
-#include "app/AppSettingsCommandBridge.hpp"
-
 #import <AppKit/AppKit.h>
 
 NS_ASSUME_NONNULL_BEGIN
@@ -12,11 +10,8 @@ NS_ASSUME_NONNULL_BEGIN
 /// creator keeps it alive for the whole process.
 @interface QuenbyAppDelegate : NSObject <NSApplicationDelegate>
 
-/// The application menu's Settings command, titled in the user's language. It reaches the
-/// coordinator only between the end of launching and termination.
-- (quenby::AppSettingsCommandBridge)settingsCommand;
-
-/// The action of the application menu's Settings item.
+/// The action of the application menu's Settings item. It reaches the coordinator only between
+/// the end of launching and termination.
 - (void)showSettings:(nullable id)sender;
 
 @end

@@ -1,5 +1,6 @@
-// AppKit's launch and termination callbacks, forwarded to the portable launch controller, which
-// decides everything (one coordinator per process, the status item only outside a test host).
+// AppKit's launch, reopen and termination callbacks, forwarded to the portable launch controller,
+// which decides everything (one coordinator per process, the status item only outside a test host,
+// what reopening shows).
 // Main thread only. The controller, and with it the coordinator and the whole runtime graph,
 // lives as long as this delegate; main.mm keeps the delegate for the life of the process.
 
@@ -10,7 +11,6 @@
 #include "app/StatusItemPresenting.hpp"
 #include "app/macos/LiveAppRuntime.hpp"
 #include "base/Environment.hpp"
-#include "base/macos/BundleLocalizer.hpp"
 #import "base/macos/FoundationPropertyList.h"
 
 #include <memory>
@@ -58,17 +58,24 @@ quenby::Environment processEnvironment() {
   return self;
 }
 
-- (quenby::AppSettingsCommandBridge)settingsCommand {
-  const quenby::BundleLocalizer localizer;
-  return _launchController->settingsCommand(localizer);
-}
-
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
   _launchController->applicationDidFinishLaunching();
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
   _launchController->applicationWillTerminate();
+}
+
+// Nothing of ours is restored from window state, so decoding it securely costs nothing, and AppKit
+// warns at launch about every delegate that does not opt in.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
+  return YES;
+}
+
+// Finder, the Dock or Spotlight opening the running application again. NO when the controller took
+// it (Settings shown); YES lets AppKit do its usual reopen, harmless for an app without documents.
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)application hasVisibleWindows:(BOOL)flag {
+  return _launchController->handleReopen() ? YES : NO;
 }
 
 - (void)showSettings:(nullable id)sender {

@@ -2,7 +2,6 @@
 // loop. Main thread. NSApplication holds its delegate weakly, so the delegate is kept here, alive
 // until the process exits (-run does not return; termination exits the process).
 
-#include "app/AppSettingsCommandBridge.hpp"
 #include "app/macos/ApplicationMenuTexts.hpp"
 #import "app/macos/QuenbyAppDelegate.h"
 #include "base/macos/BundleLocalizer.hpp"
@@ -18,26 +17,18 @@ NSString* menuText(std::string_view text) {
   return converted != nil ? converted : @"";
 }
 
-NSEventModifierFlags modifierFlags(quenby::AppSettingsCommandBridge::Modifier modifiers) {
-  switch (modifiers) {
-  case quenby::AppSettingsCommandBridge::Modifier::command:
-    return NSEventModifierFlagCommand;
-  }
-  return 0;
-}
-
-// The application menu (the one titled with the process name): Settings, then Quit. An accessory
-// application shows it only while one of its windows is active.
+// The application menu (the one titled with the process name): Settings (Command-Comma, as in
+// every Mac app), then Quit. An accessory application shows it only while one of its windows is
+// active.
 NSMenu* makeMainMenu(QuenbyAppDelegate* delegate) {
-  const quenby::AppSettingsCommandBridge settings = [delegate settingsCommand];
-  NSMenuItem* settingsItem =
-      [[NSMenuItem alloc] initWithTitle:menuText(settings.title)
-                                 action:@selector(showSettings:)
-                          keyEquivalent:menuText(std::string(1, settings.keyEquivalent))];
-  settingsItem.target = delegate;
-  settingsItem.keyEquivalentModifierMask = modifierFlags(settings.modifiers);
-
   const quenby::BundleLocalizer localizer;
+  NSMenuItem* settingsItem =
+      [[NSMenuItem alloc] initWithTitle:menuText(localizer.localized(quenby::kMenuSettingsText))
+                                 action:@selector(showSettings:)
+                          keyEquivalent:@","];
+  settingsItem.target = delegate;
+  settingsItem.keyEquivalentModifierMask = NSEventModifierFlagCommand;
+
   NSMenuItem* quitItem = [[NSMenuItem alloc]
       initWithTitle:menuText(localizer.localized(quenby::kApplicationMenuQuitText))
              action:@selector(terminate:)
