@@ -4,6 +4,8 @@
 #include <cmath>
 #include <fstream>
 #include <iterator>
+#include <locale>
+#include <sstream>
 
 namespace quenby {
 
@@ -24,9 +26,13 @@ std::int64_t parseInteger(const std::string& text) {
 }
 
 double parseReal(const std::string& text) {
+  // Apple's C++ library has no floating-point from_chars; a stream in the classic locale reads
+  // the same digits on every host.
+  std::istringstream stream(text);
+  stream.imbue(std::locale::classic());
   double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value)) {
+  stream >> std::noskipws >> value;
+  if (stream.fail() || stream.peek() != std::char_traits<char>::eof() || !std::isfinite(value)) {
     throw ScenarioLineError{"\"" + text + "\" is not a number"};
   }
   return value;

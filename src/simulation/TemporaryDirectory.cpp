@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <system_error>
+#include <unistd.h> // mkdtemp, on macOS
 #include <vector>
 
 namespace quenby {
