@@ -65,19 +65,15 @@ TEST_F(KeyboardMappingStoreTest, ADocumentInNormalFormIsNotWrittenAgain) {
 
 TEST_F(KeyboardMappingStoreTest, UnreadableDataIsSetAsideByteForByteAndTheStoreStartsEmpty) {
   const std::string backupKey = "letterMappings.v1.corrupt.1772874000123";
-  const std::vector<std::pair<std::string, PropertyListValue>> unreadable{
-      {"not JSON", PropertyListValue::Data{'{', 'x', 0xFF}},
-      {"a record that is no bundle", PropertyListValue::Data{}}, // filled below
-      {"a string, not data", PropertyListValue(std::string("[]"))},
-  };
-  for (auto [label, value] : unreadable) {
-    SCOPED_TRACE(label);
-    LetterStoreHarness harness;
-    if (label == "a record that is no bundle") {
-      const auto text = "[" + record("A", "com.example.a", "/Applications/A.app") + "," +
+  const auto noBundle = "[" + record("A", "com.example.a", "/Applications/A.app") + "," +
                         record("B", "com.example.b", "/Applications/B.txt") + "]";
-      value = PropertyListValue::Data(text.begin(), text.end());
-    }
+  const std::vector<PropertyListValue> unreadable{
+      PropertyListValue::Data{'{', 'x', 0xFF},
+      PropertyListValue::Data(noBundle.begin(), noBundle.end()),
+      PropertyListValue(std::string("[]")), // not data at all
+  };
+  for (const auto& value : unreadable) {
+    LetterStoreHarness harness;
     harness.defaults.preset("letterMappings.v1", value);
     const auto store = harness.makeStore();
 
