@@ -6,7 +6,7 @@ namespace quenby {
 
 AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration configuration)
     : platform_(std::move(platform)), shell_(platform_.base, platform_.app),
-      shortcuts_(platform_.base, platform_.shortcuts,
+      shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       data_(platform_.base), lifecycle_(makeLifecycle()) {}
 

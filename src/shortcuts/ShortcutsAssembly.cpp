@@ -3,6 +3,7 @@
 namespace quenby {
 
 ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
+                                     ConfigurationFailureReporting& configurationReporter,
                                      Options options)
     : metadataReader_(*base.fileSystem, *base.propertyListDecoder),
       resolver_(*platform.applicationLocator, metadataReader_, *base.fileSystem),
@@ -12,13 +13,8 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
       dockNumberProvider_(*platform.dockPreferenceReader, resolver_, *base.scheduler,
                           *base.distributedNotificationCenter,
                           options.dockStartsCatalogMonitor ? &catalogMonitor_ : nullptr,
-                          *base.localizer) {}
-
-KeyboardMappingSnapshot ShortcutsAssembly::mappingSnapshot() const {
-  KeyboardMappingSnapshot snapshot;
-  snapshot.applicationCatalogRevision = resolver_.catalogRevision();
-  snapshot.numberEntries = dockNumberProvider_.current().entries;
-  return snapshot;
-}
+                          *base.localizer),
+      letterStore_(dockNumberProvider_, *base.userDefaults, *base.wallClock, resolver_,
+                   metadataReader_, &catalogMonitor_, configurationReporter, *base.localizer) {}
 
 } // namespace quenby

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ConfigurationFailureReporting.hpp"
 #include "base/BasePlatform.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
@@ -8,11 +9,13 @@
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "shortcuts/dock/DockNumberMappingProvider.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
+#include "shortcuts/mapping/KeyboardMappingStore.hpp"
 
 namespace quenby {
 
-/// The shortcuts' feature objects: the application catalog and resolver, and the Dock's digit
-/// mappings. `base` and `platform` must outlive it.
+/// The shortcuts' feature objects: the application catalog and resolver, the Dock's digit
+/// mappings and the user's letter mappings. `base`, `platform` and `configurationReporter` must
+/// outlive it.
 class ShortcutsAssembly {
 public:
   struct Options {
@@ -21,21 +24,36 @@ public:
     bool dockStartsCatalogMonitor = true;
   };
 
-  ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform, Options options);
+  /// Reads the stored letter mappings at once; what needs the user goes to
+  /// `configurationReporter`.
+  ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
+                    ConfigurationFailureReporting& configurationReporter, Options options);
   ShortcutsAssembly(const ShortcutsAssembly&) = delete;
   ShortcutsAssembly& operator=(const ShortcutsAssembly&) = delete;
 
-  void startDock() { dockNumberProvider_.start(); }
-  void stopDock() { dockNumberProvider_.stop(); }
+  /// Starts the Dock's mappings and has the letter store follow them (and the catalog) from
+  /// then on, so the first snapshot already holds the Dock.
+  void startDock() {
+    dockNumberProvider_.start();
+    letterStore_.startMonitoring();
+  }
+  void stopMappings() { letterStore_.stopMonitoring(); }
+  void stopDock() {
+    letterStore_.stopMonitoring();
+    dockNumberProvider_.stop();
+  }
   void startCatalogMonitoring() { catalogMonitor_.start(); }
   void stopCatalogMonitoring() { catalogMonitor_.stop(); }
-  /// The mappings as they stand: the Dock's positions against the current catalog.
-  [[nodiscard]] KeyboardMappingSnapshot mappingSnapshot() const;
+  /// The mappings as they stand: the Dock's positions and the letters.
+  [[nodiscard]] const KeyboardMappingSnapshot& mappingSnapshot() const {
+    return letterStore_.snapshot();
+  }
 
   [[nodiscard]] const DockNumberMappingProvider& dockNumberProvider() const {
     return dockNumberProvider_;
   }
   [[nodiscard]] WorkspaceApplicationResolver& resolver() { return resolver_; }
+  [[nodiscard]] KeyboardMappingStore& letterStore() { return letterStore_; }
 
 private:
   BundleApplicationMetadataReader metadataReader_;
@@ -43,6 +61,7 @@ private:
   SystemApplicationCatalogDistributedObserver catalogDistributedObserver_;
   WorkspaceApplicationCatalogMonitor catalogMonitor_;
   DockNumberMappingProvider dockNumberProvider_;
+  KeyboardMappingStore letterStore_;
 };
 
 } // namespace quenby

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ObservationToken.hpp"
+
 #include <functional>
 
 namespace quenby {
@@ -12,7 +14,9 @@ public:
   virtual void start() = 0;
   /// Does nothing unless running.
   virtual void stop() = 0;
-  virtual void setOnChange(std::function<void()> handler) = 0;
+  /// `handler` hears every new catalog revision until the token ends; every observer hears
+  /// every revision, in the order they registered.
+  [[nodiscard]] virtual ObservationToken observe(std::function<void()> handler) = 0;
 };
 
 } // namespace quenby

@@ -39,6 +39,16 @@ void WorkspaceApplicationCatalogMonitor::stop() {
   query_.stop();
 }
 
+ObservationToken WorkspaceApplicationCatalogMonitor::observe(std::function<void()> handler) {
+  const std::uint64_t id = nextObserverId_++;
+  observers_->emplace(id, std::move(handler));
+  return ObservationToken([observers = std::weak_ptr<Observers>(observers_), id] {
+    if (const auto alive = observers.lock()) {
+      alive->erase(id);
+    }
+  });
+}
+
 void WorkspaceApplicationCatalogMonitor::refresh(
     const ApplicationCandidateMap* spotlightCandidates) {
   if (!isRunning_) {
@@ -50,8 +60,14 @@ void WorkspaceApplicationCatalogMonitor::refresh(
     return;
   }
   deliveredRevision_ = revision;
-  if (onChange_) {
-    onChange_();
+  // An observer may end its own or another's registration while hearing the news, or stop the
+  // monitor: each is looked up again just before it is called.
+  const std::uint64_t lastId = nextObserverId_;
+  for (auto next = observers_->begin(); next != observers_->end() && next->first < lastId;) {
+    const std::uint64_t id = next->first;
+    auto handler = next->second;
+    handler();
+    next = observers_->upper_bound(id);
   }
 }
 

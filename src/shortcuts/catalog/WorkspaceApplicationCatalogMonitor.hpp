@@ -8,13 +8,15 @@
 #include "shortcuts/catalog/ApplicationSpotlightQuerying.hpp"
 #include "shortcuts/catalog/ApplicationWorkspaceNotificationObserving.hpp"
 
+#include <map>
+#include <memory>
 #include <optional>
 
 namespace quenby {
 
 /// Keeps the application catalog fresh while running: it refreshes on Spotlight's results (with
 /// them as candidates), on workspace and Launch Services notifications, and every half second,
-/// and calls `onChange` once per new catalog revision however many triggers led to it.
+/// and tells its observers once per new catalog revision however many triggers led to it.
 ///
 /// Main thread only. Every collaborator must outlive the monitor; callbacks handed to them hold
 /// the monitor weakly.
@@ -33,14 +35,18 @@ public:
 
   void start() override;
   void stop() override;
-  void setOnChange(std::function<void()> handler) override { onChange_ = std::move(handler); }
+  [[nodiscard]] ObservationToken observe(std::function<void()> handler) override;
 
   [[nodiscard]] bool isRunning() const { return isRunning_; }
 
 private:
   void refresh(const ApplicationCandidateMap* spotlightCandidates);
 
-  std::function<void()> onChange_;
+  using Observers = std::map<std::uint64_t, std::function<void()>>;
+
+  /// Shared with the tokens, which hold it weakly, so a token may outlive the monitor.
+  std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
+  std::uint64_t nextObserverId_ = 0;
   ApplicationCatalogRefreshing& catalog_;
   ApplicationSpotlightQuerying& query_;
   ApplicationWorkspaceNotificationObserving& workspaceCenter_;

@@ -25,7 +25,7 @@ void DockNumberMappingProvider::start() {
   }
   isRunning_ = true;
   if (catalogMonitor_ != nullptr) {
-    catalogMonitor_->setOnChange(guard_.weak([this] { reload(true); }));
+    catalogToken_ = catalogMonitor_->observe(guard_.weak([this] { reload(true); }));
   }
   for (const std::string_view name : kDockNotificationNames) {
     notificationTokens_.push_back(distributedNotificationCenter_.observe(
@@ -44,6 +44,7 @@ void DockNumberMappingProvider::stop() {
   }
   isRunning_ = false;
   pollToken_.cancel();
+  catalogToken_.cancel();
   notificationTokens_.clear();
   pendingReload_.cancel();
   reloadPending_ = false;

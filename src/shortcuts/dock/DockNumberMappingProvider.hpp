@@ -90,6 +90,7 @@ private:
   const Localizer& localizer_;
   NumberMappingSnapshot current_;
   ObservationToken pollToken_;
+  ObservationToken catalogToken_;
   std::vector<ObservationToken> notificationTokens_;
   /// A reload handed to the scheduler by a notification and not yet run: a burst of
   /// notifications needs one read, not one per notification.

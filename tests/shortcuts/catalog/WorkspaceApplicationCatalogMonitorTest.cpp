@@ -70,7 +70,7 @@ public:
 class WorkspaceApplicationCatalogMonitorTest : public ::testing::Test {
 protected:
   void SetUp() override {
-    monitor.setOnChange([this] { ++changes; });
+    changeToken = monitor.observe([this] { ++changes; });
   }
 
   void postEveryLaunchServicesNotification() {
@@ -87,6 +87,7 @@ protected:
   ManualScheduler scheduler;
   WorkspaceApplicationCatalogMonitor monitor{catalog, query, workspace, distributed, scheduler};
   int changes = 0;
+  ObservationToken changeToken;
 };
 
 TEST_F(WorkspaceApplicationCatalogMonitorTest, EveryTriggerRefreshesAndEachRevisionIsToldOnce) {
@@ -141,7 +142,7 @@ TEST_F(WorkspaceApplicationCatalogMonitorTest, EveryTriggerRefreshesAndEachRevis
 
 TEST_F(WorkspaceApplicationCatalogMonitorTest, AStopFromTheChangeHandlerLeavesNoPollBehind) {
   // The first revision is told during start(), before the poll would be armed.
-  monitor.setOnChange([this] {
+  changeToken = monitor.observe([this] {
     ++changes;
     monitor.stop();
   });
@@ -160,6 +161,33 @@ TEST_F(WorkspaceApplicationCatalogMonitorTest, AStopFromTheChangeHandlerLeavesNo
   EXPECT_EQ(scheduler.pendingCount(), 0u);
 }
 
+TEST_F(WorkspaceApplicationCatalogMonitorTest, EveryObserverHearsEveryRevisionWhileItsTokenLives) {
+  std::vector<std::string> heard;
+  ObservationToken second;
+  ObservationToken late;
+  ObservationToken first = monitor.observe([&] {
+    heard.emplace_back("first");
+    // Ending a later registration mid-delivery must not call it, nor skip anyone else.
+    second.cancel();
+    late = monitor.observe([&] { heard.emplace_back("late"); });
+  });
+  second = monitor.observe([&] { heard.emplace_back("second"); });
+  ObservationToken third = monitor.observe([&] { heard.emplace_back("third"); });
+
+  monitor.start();
+  EXPECT_EQ(changes, 1);
+  // One registered during the delivery hears from the next revision on.
+  EXPECT_EQ(heard, (std::vector<std::string>{"first", "third"}));
+
+  heard.clear();
+  first.cancel();
+  { const ObservationToken dropped = std::move(third); }
+  catalog.pendingChanges = 1;
+  workspace.post();
+  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(heard, (std::vector<std::string>{"late"}));
+}
+
 TEST(WorkspaceApplicationCatalogMonitorOnDiskTest, AMovedApplicationIsToldOnceAtTheNextPoll) {
   ApplicationBundleFixture bundles;
   PosixFileSystem fileSystem;
@@ -176,7 +204,8 @@ TEST(WorkspaceApplicationCatalogMonitorOnDiskTest, AMovedApplicationIsToldOnceAt
   ManualScheduler scheduler;
   WorkspaceApplicationCatalogMonitor monitor(resolver, query, workspace, distributed, scheduler);
   std::vector<ApplicationResolution> told;
-  monitor.setOnChange([&] { told.push_back(resolver.resolve("com.example.mail", original)); });
+  const ObservationToken token =
+      monitor.observe([&] { told.push_back(resolver.resolve("com.example.mail", original)); });
 
   (void)resolver.resolve("com.example.mail", original);
   monitor.start();
