@@ -19,6 +19,7 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.initialSnapshot = [this] { return shortcuts_.mappingSnapshot(); };
   lifecycle.startCatalogMonitoring = [this] { shortcuts_.startCatalogMonitoring(); };
   lifecycle.stopCatalogMonitoring = [this] { shortcuts_.stopCatalogMonitoring(); };
+  lifecycle.stopMappings = [this] { shortcuts_.stopMappings(); };
   lifecycle.stopDock = [this] { shortcuts_.stopDock(); };
   return lifecycle;
 }
