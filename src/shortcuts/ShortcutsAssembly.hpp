@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/ConfigurationFailureReporting.hpp"
 #include "base/BasePlatform.hpp"
+#include "data/usage/UsageAnalyticsRecording.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
@@ -8,11 +10,16 @@
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "shortcuts/dock/DockNumberMappingProvider.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
+#include "shortcuts/switching/AppSwitchCommandQueue.hpp"
+#include "shortcuts/switching/AppSwitchFailureHandler.hpp"
+#include "shortcuts/switching/WorkspaceAppHider.hpp"
+#include "shortcuts/switching/WorkspaceAppSwitchingAdapter.hpp"
 
 namespace quenby {
 
-/// The shortcuts' feature objects: the application catalog and resolver, and the Dock's digit
-/// mappings. `base` and `platform` must outlive it.
+/// The shortcuts' feature objects: the application catalog and resolver, the Dock's digit
+/// mappings, and switching to or hiding a mapped application. `base`, `platform`, the reporter
+/// and the usage recorder must outlive it.
 class ShortcutsAssembly {
 public:
   struct Options {
@@ -21,7 +28,9 @@ public:
     bool dockStartsCatalogMonitor = true;
   };
 
-  ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform, Options options);
+  ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
+                    ConfigurationFailureReporting& configurationReporter,
+                    UsageAnalyticsRecording& usageAnalytics, Options options);
   ShortcutsAssembly(const ShortcutsAssembly&) = delete;
   ShortcutsAssembly& operator=(const ShortcutsAssembly&) = delete;
 
@@ -29,6 +38,8 @@ public:
   void stopDock() { dockNumberProvider_.stop(); }
   void startCatalogMonitoring() { catalogMonitor_.start(); }
   void stopCatalogMonitoring() { catalogMonitor_.stop(); }
+  /// Pending switches are dropped and no new ones are accepted.
+  void stopSwitchCommands() { switchCommands_.stop(); }
   /// The mappings as they stand: the Dock's positions against the current catalog.
   [[nodiscard]] KeyboardMappingSnapshot mappingSnapshot() const;
 
@@ -36,6 +47,12 @@ public:
     return dockNumberProvider_;
   }
   [[nodiscard]] WorkspaceApplicationResolver& resolver() { return resolver_; }
+  [[nodiscard]] AppSwitchCommandQueue& switchCommands() { return switchCommands_; }
+  [[nodiscard]] AppSwitchFailureHandling& switchFailureHandler() { return failureHandler_; }
+  [[nodiscard]] AppHiding& appHider() { return appHider_; }
+  [[nodiscard]] const FrontmostApplicationProviding& frontmostApplication() const {
+    return *frontmostApplication_;
+  }
 
 private:
   BundleApplicationMetadataReader metadataReader_;
@@ -43,6 +60,11 @@ private:
   SystemApplicationCatalogDistributedObserver catalogDistributedObserver_;
   WorkspaceApplicationCatalogMonitor catalogMonitor_;
   DockNumberMappingProvider dockNumberProvider_;
+  WorkspaceAppSwitchingAdapter appSwitcher_;
+  AppSwitchFailureHandler failureHandler_;
+  AppSwitchCommandQueue switchCommands_;
+  WorkspaceAppHider appHider_;
+  std::shared_ptr<FrontmostApplicationProviding> frontmostApplication_;
 };
 
 } // namespace quenby
