@@ -9,16 +9,12 @@
 
 namespace quenby {
 
-/// An opener that answers each open with the next scripted error (absent: success; success
-/// once the script runs out), at once, or keeps the completion for the test when `deferred`.
+/// An opener that answers each open at once with the next scripted error (absent: success;
+/// success once the script runs out).
 class ScriptedApplicationOpener final : public ApplicationOpening {
 public:
   void openApplication(const FileURL& url, Completion completion) override {
     openedURLs.push_back(url);
-    if (deferred) {
-      pending.push_back(std::move(completion));
-      return;
-    }
     std::optional<std::string> error;
     if (!errors.empty()) {
       error = errors.front();
@@ -28,8 +24,6 @@ public:
   }
 
   std::deque<std::optional<std::string>> errors;
-  bool deferred = false;
-  std::vector<Completion> pending;
   std::vector<FileURL> openedURLs;
 };
 

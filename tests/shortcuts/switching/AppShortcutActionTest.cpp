@@ -45,18 +45,21 @@ TEST(AppShortcutAction, AnUnusableMappingIsReportedEvenWhenItsApplicationIsInFro
             AppSwitchConfigurationFailure::unresolved(ApplicationResolutionProblem::notFound()));
 }
 
+// The front application as the hider sees it ("" for one without identifier); counts hides.
 class FakeApplication final : public HidableApplication {
 public:
-  FakeApplication(std::optional<std::string> identifier, bool agrees, int& hides)
-      : identifier_(std::move(identifier)), agrees_(agrees), hides_(hides) {}
-  [[nodiscard]] std::optional<std::string> bundleIdentifier() const override { return identifier_; }
+  FakeApplication(const std::string& front, bool agrees, int& hides)
+      : front_(front), agrees_(agrees), hides_(hides) {}
+  [[nodiscard]] std::optional<std::string> bundleIdentifier() const override {
+    return front_.empty() ? std::nullopt : std::optional(front_);
+  }
   bool hide() override {
     ++hides_;
     return agrees_;
   }
 
 private:
-  std::optional<std::string> identifier_;
+  std::string front_;
   bool agrees_;
   int& hides_;
 };
@@ -69,12 +72,11 @@ TEST(WorkspaceAppHider, HidesOnlyWhenTheFrontApplicationIsStillTheMappedOne) {
     if (!front) {
       return nullptr;
     }
-    return std::make_unique<FakeApplication>(*front == "none" ? std::nullopt : front, agrees,
-                                             hides);
+    return std::make_unique<FakeApplication>(*front, agrees, hides);
   });
 
   EXPECT_FALSE(hider.hideIfFrontmost(kNotes)) << "nothing in front";
-  front = "none";
+  front = "";
   EXPECT_FALSE(hider.hideIfFrontmost(kNotes)) << "front application without identifier";
   front = "com.apple.Safari";
   EXPECT_FALSE(hider.hideIfFrontmost(kNotes)) << "the front changed since the caller looked";

@@ -88,20 +88,6 @@ TEST_F(QueueFixture, ARequestAfterTheQueueRanDryStartsANewDrain) {
   EXPECT_EQ(switcher.requests[1].mapping, notes);
 }
 
-TEST_F(QueueFixture, ARequestDuringASwitchWaitsForIt) {
-  queue->submit(mail);
-  scheduler.runPending();
-  queue->submit(notes);
-  scheduler.runPending();
-  EXPECT_EQ(switcher.requests.size(), 1U);
-  EXPECT_EQ(queue->pendingCount(), 1U);
-
-  switcher.finish(0);
-  scheduler.runPending();
-  ASSERT_EQ(switcher.requests.size(), 2U);
-  EXPECT_EQ(switcher.requests[1].mapping, notes);
-}
-
 TEST_F(QueueFixture, StopDropsPendingWorkAndRefusesNewRequests) {
   queue->submit(mail);
   queue->submit(notes);
@@ -131,18 +117,6 @@ TEST_F(QueueFixture, ASwitchThatOutlivesStopIsOnlyCounted) {
   EXPECT_EQ(usage.lines, (std::vector<std::string>{"use dock:1", "use dock:2", "failure dock:1"}));
   EXPECT_TRUE(failures.failures.empty()) << "a stale failure must not reach the user";
   EXPECT_EQ(switcher.requests.size(), 1U) << "nothing more starts";
-}
-
-TEST_F(QueueFixture, AFailureHandlerThatStopsTheQueueEndsTheDrain) {
-  failures.onFailure = [this] { queue->stop(); };
-  queue->submit(mail);
-  queue->submit(notes);
-  scheduler.runPending();
-  switcher.finish(0, kRefused);
-  scheduler.runPending();
-
-  EXPECT_EQ(switcher.requests.size(), 1U);
-  EXPECT_EQ(scheduler.pendingCount(), 0U);
 }
 
 TEST_F(QueueFixture, ACompletionAfterTheQueueIsGoneDoesNothing) {
