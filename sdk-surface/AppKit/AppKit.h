@@ -15,6 +15,7 @@
 #import <AppKit/NSMenuItem.h>
 #import <AppKit/NSPanel.h>
 #import <AppKit/NSResponder.h>
+#import <AppKit/NSRunningApplication.h>
 #import <AppKit/NSScreen.h>
 #import <AppKit/NSStackView.h>
 #import <AppKit/NSTextField.h>

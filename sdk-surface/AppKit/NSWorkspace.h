@@ -3,13 +3,21 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <AppKit/NSRunningApplication.h>
 #import <Foundation/NSArray.h>
 #import <Foundation/NSNotification.h>
 #import <Foundation/NSObject.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSString, NSURL;
+@class NSError, NSString, NSURL;
+
+// macOS 10.15.
+@interface NSWorkspaceOpenConfiguration : NSObject <NSCopying>
++ (instancetype)configuration;
+// Whether the opened application comes to the front; YES by default.
+@property BOOL activates;
+@end
 
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
@@ -17,6 +25,12 @@ NS_ASSUME_NONNULL_BEGIN
 - (NSArray<NSURL*>*)URLsForApplicationsWithBundleIdentifier:(NSString*)bundleIdentifier;
 // Workspace notifications are posted here only, never on the default centre.
 @property(readonly, strong) NSNotificationCenter* notificationCenter;
+@property(nullable, readonly, strong) NSRunningApplication* frontmostApplication;
+// macOS 10.15. The handler runs once, on a concurrent queue, never the main one.
+- (void)openApplicationAtURL:(NSURL*)applicationURL
+               configuration:(NSWorkspaceOpenConfiguration*)configuration
+           completionHandler:(void (^_Nullable)(NSRunningApplication* _Nullable app,
+                                                NSError* _Nullable error))completionHandler;
 @end
 
 // AppKit declares these four as plain variables and only the rename notification const: kept so,

@@ -11,6 +11,7 @@
 #import <Foundation/NSDistributedNotificationCenter.h>
 #import <Foundation/NSEnumerator.h>
 #import <Foundation/NSError.h>
+#import <Foundation/NSFileManager.h>
 #import <Foundation/NSGeometry.h>
 #import <Foundation/NSMetadata.h>
 #import <Foundation/NSNotification.h>

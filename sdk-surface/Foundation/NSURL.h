@@ -9,6 +9,7 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSString;
 
 @interface NSURL : NSObject <NSCopying>
++ (NSURL*)fileURLWithPath:(NSString*)path isDirectory:(BOOL)isDirectory;
 @property(readonly, getter=isFileURL) BOOL fileURL;
 @property(nullable, readonly, copy) NSString* path;
 @end

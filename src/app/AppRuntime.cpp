@@ -7,6 +7,7 @@ namespace quenby {
 AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration configuration)
     : platform_(std::move(platform)), shell_(platform_.base, platform_.app),
       shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(),
+                 usageAnalytics_,
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       data_(platform_.base), lifecycle_(makeLifecycle()) {}
 
@@ -18,6 +19,7 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.startDock = [this] { shortcuts_.startDock(); };
   lifecycle.initialSnapshot = [this] { return shortcuts_.mappingSnapshot(); };
   lifecycle.startCatalogMonitoring = [this] { shortcuts_.startCatalogMonitoring(); };
+  lifecycle.stopSwitchCommands = [this] { shortcuts_.stopSwitchCommands(); };
   lifecycle.stopCatalogMonitoring = [this] { shortcuts_.stopCatalogMonitoring(); };
   lifecycle.stopMappings = [this] { shortcuts_.stopMappings(); };
   lifecycle.stopDock = [this] { shortcuts_.stopDock(); };

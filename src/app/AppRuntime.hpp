@@ -5,6 +5,7 @@
 #include "app/AppShellAssembly.hpp"
 #include "app/PlatformServices.hpp"
 #include "data/DataAssembly.hpp"
+#include "data/usage/UsageAnalyticsRecording.hpp"
 #include "shortcuts/ShortcutsAssembly.hpp"
 
 namespace quenby {
@@ -30,6 +31,8 @@ private:
 
   PlatformServices platform_;
   AppShellAssembly shell_;
+  // Counts nothing until the usage analytics store joins the graph.
+  NoOpUsageAnalyticsRecorder usageAnalytics_;
   ShortcutsAssembly shortcuts_;
   DataAssembly data_;
   AppCoordinatorLifecycle lifecycle_;

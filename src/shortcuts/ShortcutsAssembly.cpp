@@ -1,10 +1,26 @@
 #include "shortcuts/ShortcutsAssembly.hpp"
 
+#include <string>
+
 namespace quenby {
+
+namespace {
+
+// Activation errors pass (the application may simply have refused once); the log keeps them for
+// whoever looks into a shortcut that seemed to do nothing.
+AppSwitchFailureHandler::TransientObserver loggingTransientObserver(Logger& logger,
+                                                                    const Localizer& localizer) {
+  return [&logger, &localizer](const AppSwitchingError& error) {
+    logger.log(LogLevel::error, "Switching",
+               "Transient application activation failure: " + error.description(localizer));
+  };
+}
+
+} // namespace
 
 ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
                                      ConfigurationFailureReporting& configurationReporter,
-                                     Options options)
+                                     UsageAnalyticsRecording& usageAnalytics, Options options)
     : metadataReader_(*base.fileSystem, *base.propertyListDecoder),
       resolver_(*platform.applicationLocator, metadataReader_, *base.fileSystem),
       catalogDistributedObserver_(*base.distributedNotificationCenter),
@@ -15,6 +31,13 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
                           options.dockStartsCatalogMonitor ? &catalogMonitor_ : nullptr,
                           *base.localizer),
       letterStore_(dockNumberProvider_, *base.userDefaults, *base.wallClock, resolver_,
-                   metadataReader_, &catalogMonitor_, configurationReporter, *base.localizer) {}
+                   metadataReader_, &catalogMonitor_, configurationReporter, *base.localizer),
+      appSwitcher_(resolver_, resolver_, *platform.applicationOpener,
+                   *platform.applicationPresenceChecker),
+      failureHandler_(configurationReporter,
+                      loggingTransientObserver(*base.logger, *base.localizer), *base.localizer),
+      switchCommands_(appSwitcher_, failureHandler_, usageAnalytics, *base.scheduler),
+      appHider_(platform.frontmostHidableApplication),
+      frontmostApplication_(platform.frontmostApplication) {}
 
 } // namespace quenby

@@ -2,6 +2,7 @@
 
 #include "app/ConfigurationFailureReporting.hpp"
 #include "base/BasePlatform.hpp"
+#include "data/usage/UsageAnalyticsRecording.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/catalog/SystemApplicationCatalogDistributedObserver.hpp"
@@ -10,12 +11,16 @@
 #include "shortcuts/dock/DockNumberMappingProvider.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
 #include "shortcuts/mapping/KeyboardMappingStore.hpp"
+#include "shortcuts/switching/AppSwitchCommandQueue.hpp"
+#include "shortcuts/switching/AppSwitchFailureHandler.hpp"
+#include "shortcuts/switching/WorkspaceAppHider.hpp"
+#include "shortcuts/switching/WorkspaceAppSwitchingAdapter.hpp"
 
 namespace quenby {
 
 /// The shortcuts' feature objects: the application catalog and resolver, the Dock's digit
-/// mappings and the user's letter mappings. `base`, `platform` and `configurationReporter` must
-/// outlive it.
+/// mappings, the user's letter mappings, and switching to or hiding a mapped application.
+/// `base`, `platform`, the reporter and the usage recorder must outlive it.
 class ShortcutsAssembly {
 public:
   struct Options {
@@ -27,7 +32,8 @@ public:
   /// Reads the stored letter mappings at once; what needs the user goes to
   /// `configurationReporter`.
   ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
-                    ConfigurationFailureReporting& configurationReporter, Options options);
+                    ConfigurationFailureReporting& configurationReporter,
+                    UsageAnalyticsRecording& usageAnalytics, Options options);
   ShortcutsAssembly(const ShortcutsAssembly&) = delete;
   ShortcutsAssembly& operator=(const ShortcutsAssembly&) = delete;
 
@@ -44,6 +50,8 @@ public:
   }
   void startCatalogMonitoring() { catalogMonitor_.start(); }
   void stopCatalogMonitoring() { catalogMonitor_.stop(); }
+  /// Pending switches are dropped and no new ones are accepted.
+  void stopSwitchCommands() { switchCommands_.stop(); }
   /// The mappings as they stand: the Dock's positions and the letters.
   [[nodiscard]] const KeyboardMappingSnapshot& mappingSnapshot() const {
     return letterStore_.snapshot();
@@ -54,6 +62,12 @@ public:
   }
   [[nodiscard]] WorkspaceApplicationResolver& resolver() { return resolver_; }
   [[nodiscard]] KeyboardMappingStore& letterStore() { return letterStore_; }
+  [[nodiscard]] AppSwitchCommandQueue& switchCommands() { return switchCommands_; }
+  [[nodiscard]] AppSwitchFailureHandling& switchFailureHandler() { return failureHandler_; }
+  [[nodiscard]] AppHiding& appHider() { return appHider_; }
+  [[nodiscard]] const FrontmostApplicationProviding& frontmostApplication() const {
+    return *frontmostApplication_;
+  }
 
 private:
   BundleApplicationMetadataReader metadataReader_;
@@ -62,6 +76,11 @@ private:
   WorkspaceApplicationCatalogMonitor catalogMonitor_;
   DockNumberMappingProvider dockNumberProvider_;
   KeyboardMappingStore letterStore_;
+  WorkspaceAppSwitchingAdapter appSwitcher_;
+  AppSwitchFailureHandler failureHandler_;
+  AppSwitchCommandQueue switchCommands_;
+  WorkspaceAppHider appHider_;
+  std::shared_ptr<FrontmostApplicationProviding> frontmostApplication_;
 };
 
 } // namespace quenby

@@ -4,26 +4,46 @@
 #include "shortcuts/catalog/ApplicationWorkspaceNotificationObserving.hpp"
 #include "shortcuts/catalog/InstalledApplicationLocating.hpp"
 #include "shortcuts/dock/DockPreferenceReading.hpp"
+#include "shortcuts/switching/ApplicationOpening.hpp"
+#include "shortcuts/switching/ApplicationPresenceChecking.hpp"
+#include "shortcuts/switching/FrontmostApplicationProviding.hpp"
+#include "shortcuts/switching/HidableApplication.hpp"
 
 #include <memory>
 
 namespace quenby {
 
-/// What the shortcuts need from the platform: the Dock's preferences and the ways of finding
-/// installed applications and hearing that they changed.
+/// What the shortcuts need from the platform: the Dock's preferences, the ways of finding
+/// installed applications and hearing that they changed, and the workspace's opening, hiding and
+/// front application. The switching adapters default to their inert twins, so a platform that
+/// does not fill them still builds a harmless graph.
 struct ShortcutsPlatform {
   std::shared_ptr<DockPreferenceReading> dockPreferenceReader;
   std::shared_ptr<InstalledApplicationLocating> applicationLocator;
   std::shared_ptr<ApplicationSpotlightQuerying> spotlightQuery;
   std::shared_ptr<ApplicationWorkspaceNotificationObserving> workspaceNotifications;
+  std::shared_ptr<ApplicationOpening> applicationOpener =
+      std::make_shared<InertApplicationOpener>();
+  std::shared_ptr<ApplicationPresenceChecking> applicationPresenceChecker =
+      std::make_shared<InertApplicationPresenceChecker>();
+  std::shared_ptr<FrontmostApplicationProviding> frontmostApplication =
+      std::make_shared<InertFrontmostApplicationProvider>();
+  FrontmostHidableApplicationSource frontmostHidableApplication = [] {
+    return std::unique_ptr<HidableApplication>();
+  };
 
-  /// An empty Dock, no applications and no notifications.
+  /// An empty Dock, no applications, no notifications, nothing in front; opening succeeds
+  /// without opening anything.
   [[nodiscard]] static ShortcutsPlatform inert() {
     return {
         .dockPreferenceReader = std::make_shared<InertDockPreferenceReader>(),
         .applicationLocator = std::make_shared<InertInstalledApplicationLocator>(),
         .spotlightQuery = std::make_shared<InertApplicationSpotlightQuery>(),
         .workspaceNotifications = std::make_shared<InertApplicationWorkspaceNotificationObserver>(),
+        .applicationOpener = std::make_shared<InertApplicationOpener>(),
+        .applicationPresenceChecker = std::make_shared<InertApplicationPresenceChecker>(),
+        .frontmostApplication = std::make_shared<InertFrontmostApplicationProvider>(),
+        .frontmostHidableApplication = [] { return std::unique_ptr<HidableApplication>(); },
     };
   }
 };

@@ -5,7 +5,8 @@
 namespace quenby {
 
 /// The Dock's preferences through CoreFoundation, Launch Services, Spotlight and the workspace's
-/// notifications. Call on the main thread.
+/// notifications; opening, hiding and the front application through the workspace. Call on the
+/// main thread.
 [[nodiscard]] ShortcutsPlatform makeLiveShortcutsPlatform();
 
 } // namespace quenby

@@ -1,6 +1,7 @@
 // Builds the shortcuts' system adapters. Main thread only; each adapter is shared with the
 // runtime graph and lives as long as it does. The Spotlight query starts only when the catalog
-// monitor starts it.
+// monitor starts it; the workspace is asked for its front application at each hide, never
+// cached.
 
 #include "shortcuts/macos/LiveShortcutsPlatform.hpp"
 
@@ -9,6 +10,10 @@
 #include "shortcuts/catalog/macos/WorkspaceApplicationLocator.hpp"
 #include "shortcuts/dock/SystemDockPreferenceReader.hpp"
 #include "shortcuts/dock/macos/SystemDockPreferences.hpp"
+#include "shortcuts/switching/macos/FileManagerApplicationPresenceChecker.hpp"
+#include "shortcuts/switching/macos/RunningApplicationHideTarget.hpp"
+#include "shortcuts/switching/macos/WorkspaceApplicationOpener.hpp"
+#include "shortcuts/switching/macos/WorkspaceFrontmostApplicationProvider.hpp"
 
 #include <utility>
 
@@ -22,6 +27,10 @@ ShortcutsPlatform makeLiveShortcutsPlatform() {
       .applicationLocator = std::make_shared<WorkspaceApplicationLocator>(),
       .spotlightQuery = std::make_shared<SystemApplicationSpotlightQuery>(),
       .workspaceNotifications = std::make_shared<SystemApplicationWorkspaceNotificationObserver>(),
+      .applicationOpener = std::make_shared<WorkspaceApplicationOpener>(),
+      .applicationPresenceChecker = std::make_shared<FileManagerApplicationPresenceChecker>(),
+      .frontmostApplication = std::make_shared<WorkspaceFrontmostApplicationProvider>(),
+      .frontmostHidableApplication = [] { return RunningApplicationHideTarget::frontmost(); },
   };
 }
 

@@ -1,0 +1,19 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <Foundation/NSObject.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSString;
+
+@interface NSRunningApplication : NSObject
+// Nil for an application that has no Info.plist identifier.
+@property(nullable, readonly, copy) NSString* bundleIdentifier;
+// NO when the application refused (a full-screen application does).
+- (BOOL)hide;
+@end
+
+NS_ASSUME_NONNULL_END
