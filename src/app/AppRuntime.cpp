@@ -8,7 +8,8 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
     : platform_(std::move(platform)), shell_(platform_.base, platform_.app),
       shortcuts_(platform_.base, platform_.shortcuts,
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
-      data_(platform_.base), lifecycle_(makeLifecycle()) {}
+      data_(platform_.base, platform_.data, shell_.configurationReporter()),
+      lifecycle_(makeLifecycle()) {}
 
 // Which feature each of the coordinator's steps reaches; the coordinator alone decides their
 // order (AppCoordinator::start and stop). A step whose feature does not exist yet stays a no-op.
