@@ -206,6 +206,11 @@ std::string StoredUsageState::encode() const {
   return document.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
+PropertyListValue StoredUsageState::encodedValue() const {
+  const auto text = encode();
+  return PropertyListValue(PropertyListValue::Data(text.begin(), text.end()));
+}
+
 Expected<StoredUsageState, Failure> StoredUsageState::decode(std::string_view bytes) {
   if (!nestsWithin(bytes, kMaximumNesting)) {
     return Unexpected{Failure{}};

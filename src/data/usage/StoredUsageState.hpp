@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Expected.hpp"
+#include "base/PropertyListValue.hpp"
 #include "base/WallClock.hpp"
 #include "data/usage/StoredAppOutcome.hpp"
 #include "data/usage/UsageDayKey.hpp"
@@ -67,6 +68,7 @@ struct StoredUsageState {
   /// The UTF-8 JSON text. Invalid UTF-8 in a name is replaced rather than refused, so that
   /// encoding cannot fail.
   [[nodiscard]] std::string encode() const;
+  [[nodiscard]] PropertyListValue encodedValue() const;
   [[nodiscard]] static Expected<StoredUsageState, DecodeFailure> decode(std::string_view bytes);
 
   friend bool operator==(const StoredUsageState&, const StoredUsageState&) = default;

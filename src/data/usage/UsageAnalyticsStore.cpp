@@ -39,10 +39,6 @@ private:
   std::optional<typename Map::mapped_type> previous_;
 };
 
-PropertyListValue dataValue(const std::string& bytes) {
-  return PropertyListValue(PropertyListValue::Data(bytes.begin(), bytes.end()));
-}
-
 std::string_view text(const PropertyListValue::Data& bytes) {
   return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
@@ -175,7 +171,7 @@ void UsageAnalyticsStore::quarantine(const PropertyListValue& payload,
   if (!defaults_.setVerified(backupKey, payload)) {
     failure.emplace(Stage::backup, UsageAnalyticsWriteError{backupKey});
     unsavedPayload_ = payload;
-  } else if (!defaults_.setVerified(kStorageKey, dataValue(state_.encode()))) {
+  } else if (!defaults_.setVerified(kStorageKey, state_.encodedValue())) {
     failure.emplace(Stage::reset, UsageAnalyticsWriteError{std::string(kStorageKey)});
   }
 
@@ -220,7 +216,7 @@ std::optional<UsageAnalyticsWriteError> UsageAnalyticsStore::write(const StoredU
     logger_.log(LogLevel::info, kLogCategory,
                 "Unreadable usage analytics data copied to " + backupKey);
   }
-  if (!defaults_.setVerified(kStorageKey, dataValue(state.encode()))) {
+  if (!defaults_.setVerified(kStorageKey, state.encodedValue())) {
     return UsageAnalyticsWriteError{std::string(kStorageKey)};
   }
   return std::nullopt;
