@@ -6,10 +6,10 @@ namespace quenby {
 
 AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration configuration)
     : platform_(std::move(platform)), shell_(platform_.base, platform_.app),
-      shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(),
-                 usageAnalytics_,
+      data_(platform_.base, platform_.data, shell_.configurationReporter()),
+      shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(), data_.usage(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
-      data_(platform_.base), lifecycle_(makeLifecycle()) {}
+      lifecycle_(makeLifecycle()) {}
 
 // Which feature each of the coordinator's steps reaches; the coordinator alone decides their
 // order (AppCoordinator::start and stop). A step whose feature does not exist yet stays a no-op.

@@ -31,10 +31,9 @@ private:
 
   PlatformServices platform_;
   AppShellAssembly shell_;
-  // Counts nothing until the usage analytics store joins the graph.
-  NoOpUsageAnalyticsRecorder usageAnalytics_;
-  ShortcutsAssembly shortcuts_;
+  // Before the shortcuts: switching counts into the usage analytics and reads the preferences.
   DataAssembly data_;
+  ShortcutsAssembly shortcuts_;
   AppCoordinatorLifecycle lifecycle_;
 };
 

@@ -46,7 +46,8 @@ PlatformServices makeSimulatedPlatformServices(SimulatedWorld& world,
               .failurePanelFactory = std::make_shared<SimulatedFailurePanelFactory>(recorder)},
       .shortcuts = simulatedShortcuts(world),
       .data = {.windowPlacementSnapshotProvider =
-                   std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world)},
+                   std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
+               .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
   };
 }
 

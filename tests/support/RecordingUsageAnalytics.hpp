@@ -13,14 +13,12 @@ public:
   void recordShortcutUse(const AppMapping& mapping) override {
     lines.push_back("use " + mapping.id());
   }
-  void recordSwitchOutcome(const StoredAppOutcome& outcome, const AppMapping& mapping) override {
-    const bool success = outcome.result == StoredAppOutcome::Result::success;
-    lines.push_back((success ? "success " : "failure ") + mapping.id());
-    outcomes.push_back(outcome);
+  void recordSwitchOutcome(StoredAppOutcome outcome, const AppMapping& mapping) override {
+    lines.push_back((outcome == StoredAppOutcome::success ? "success " : "failure ") +
+                    mapping.id());
   }
 
   std::vector<std::string> lines;
-  std::vector<StoredAppOutcome> outcomes;
 };
 
 } // namespace quenby

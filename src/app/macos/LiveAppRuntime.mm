@@ -7,6 +7,7 @@
 #include "app/macos/SystemConfigurationFailurePanelFactory.hpp"
 #include "base/macos/LiveBasePlatform.hpp"
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
+#include "data/usage/macos/SystemUsageCalendar.hpp"
 #include "shortcuts/macos/LiveShortcutsPlatform.hpp"
 
 #include <memory>
@@ -20,7 +21,8 @@ PlatformServices makeLivePlatformServices() {
               .failurePanelFactory = std::make_shared<SystemConfigurationFailurePanelFactory>()},
       .shortcuts = makeLiveShortcutsPlatform(),
       .data = {.windowPlacementSnapshotProvider =
-                   std::make_shared<SystemWindowPlacementSnapshotProvider>()},
+                   std::make_shared<SystemWindowPlacementSnapshotProvider>(),
+               .calendar = std::make_shared<SystemUsageCalendar>()},
   };
 }
 

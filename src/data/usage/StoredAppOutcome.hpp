@@ -1,18 +1,9 @@
 #pragma once
 
-#include <string>
-
 namespace quenby {
 
-/// How one switch to an application ended, as the usage analytics keep it.
-struct StoredAppOutcome {
-  enum class Result { success, failure };
-
-  Result result;
-  std::string bundleIdentifier;
-  std::string displayName;
-
-  friend bool operator==(const StoredAppOutcome&, const StoredAppOutcome&) = default;
-};
+/// How one switch to an application ended, as app switching reports it; the application itself
+/// is the mapping handed in beside it.
+enum class StoredAppOutcome { success = 0, failure = 1 };
 
 } // namespace quenby

@@ -58,11 +58,8 @@ void AppSwitchCommandQueue::drainStep(std::uint64_t generation) {
 void AppSwitchCommandQueue::switchFinished(std::uint64_t generation, const AppMapping& mapping,
                                            const std::optional<AppSwitchingError>& error) {
   // The outcome is counted even for a switch that outlived `stop()`: it did happen.
-  usageAnalytics_.recordSwitchOutcome(
-      {.result = error ? StoredAppOutcome::Result::failure : StoredAppOutcome::Result::success,
-       .bundleIdentifier = mapping.bundleIdentifier,
-       .displayName = mapping.displayName},
-      mapping);
+  usageAnalytics_.recordSwitchOutcome(error ? StoredAppOutcome::failure : StoredAppOutcome::success,
+                                      mapping);
   if (!isCurrent(generation)) {
     return;
   }
