@@ -4,3 +4,4 @@
 
 #include <ApplicationServices/ApplicationServices.h>
 #include <CoreServices/CoreServices.h>
+#include <Carbon/CarbonEvents.h>
