@@ -3,5 +3,5 @@
 #pragma once
 
 #include <ApplicationServices/ApplicationServices.h>
-#include <CoreServices/CoreServices.h>
 #include <Carbon/CarbonEvents.h>
+#include <CoreServices/CoreServices.h>

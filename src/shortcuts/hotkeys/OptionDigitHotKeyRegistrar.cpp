@@ -22,7 +22,15 @@ const char* unavailableSuffix(NumberMappingProblem::Kind kind) {
 } // namespace
 
 OptionDigitHotKeyRegistrar::OptionDigitHotKeyRegistrar(Collaborators collaborators)
-    : collaborators_(std::move(collaborators)) {}
+    : collaborators_(std::move(collaborators)),
+      hidesFrontmostApplication_(collaborators_.preferences.shortcutHidesFrontmostApplication()),
+      hidePreferenceObservation_(
+          collaborators_.preferences.observe([this](AppPreferenceChange change) {
+            if (const auto hides = change.valueIf<bool>(
+                    AppPreferenceProperty::shortcutHidesFrontmostApplication)) {
+              hidesFrontmostApplication_ = *hides;
+            }
+          })) {}
 
 OptionDigitHotKeyRegistrar::~OptionDigitHotKeyRegistrar() { unregisterAll(); }
 
@@ -76,7 +84,7 @@ void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
     return;
   }
   // The frontmost application is asked for only when the answer can matter.
-  if (collaborators_.preferences.shortcutHidesFrontmostApplication()) {
+  if (hidesFrontmostApplication_) {
     const auto frontmost = collaborators_.frontmostApplications.frontmostBundleIdentifier();
     if (frontmost && *frontmost == mapping->bundleIdentifier) {
       collaborators_.appHider.hideIfFrontmost(*mapping);

@@ -47,7 +47,8 @@ public:
     AppSwitchCommandSubmitting& switchCommands;
     AppSwitchConfigurationFailureHandling& failureHandler;
     ConfigurationFailureReporting& configurationReporter;
-    const AppPreferencesProviding& preferences;
+    /// Followed for the hide preference, which a press reads without asking the store.
+    AppPreferencesProviding& preferences;
     const FrontmostApplicationProviding& frontmostApplications;
     AppHiding& appHider;
     const Localizer& localizer;
@@ -77,6 +78,9 @@ private:
   Collaborators collaborators_;
   ActivationModifierPreference activeModifier_ = ActivationModifierPreference::option;
   bool handlerInstalled_ = false;
+  /// Kept up to date from the preferences, so that a press costs no read of the user defaults.
+  bool hidesFrontmostApplication_ = false;
+  AppPreferenceObservation hidePreferenceObservation_;
   /// The identifiers registered, in registration order.
   std::array<std::uint32_t, 9> registeredIdentifiers_{};
   std::size_t registeredCount_ = 0;
