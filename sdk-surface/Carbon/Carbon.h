@@ -3,4 +3,5 @@
 #pragma once
 
 #include <ApplicationServices/ApplicationServices.h>
+#include <Carbon/CarbonEvents.h>
 #include <CoreServices/CoreServices.h>

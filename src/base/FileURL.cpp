@@ -82,6 +82,8 @@ bool isUnescapedInPath(unsigned char c) {
              std::string_view::npos;
 }
 
+char asciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 bool equalsIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
            return std::tolower(static_cast<unsigned char>(x)) ==
@@ -153,6 +155,25 @@ std::string FileURL::pathExtension() const {
 
 bool FileURL::hasPathExtension(std::string_view extension) const {
   const std::string_view path = path_;
+  if (!extension.empty()) {
+    // A digit shortcut checks its target with this on every press: look at the end of the path
+    // only, and compare ASCII letters without the locale. An extension holding a dot or a slash
+    // can never be the text after the last dot of the last component.
+    if (path.size() < extension.size() + 2) {
+      return false;
+    }
+    const std::size_t dot = path.size() - extension.size() - 1;
+    if (path[dot] != '.' || path[dot - 1] == '/') {
+      return false;
+    }
+    for (std::size_t i = 0; i < extension.size(); ++i) {
+      const char wanted = extension[i];
+      if (wanted == '.' || wanted == '/' || asciiLower(wanted) != asciiLower(path[dot + 1 + i])) {
+        return false;
+      }
+    }
+    return true;
+  }
   const std::string_view name = path.substr(path.rfind('/') + 1);
   const std::size_t dot = name.rfind('.');
   if (dot == std::string_view::npos || dot == 0) {

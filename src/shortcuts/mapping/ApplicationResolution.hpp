@@ -27,6 +27,10 @@ public:
   [[nodiscard]] bool isResolved() const { return kind_ == Kind::resolved; }
   /// The bundle's URL when resolved.
   [[nodiscard]] std::optional<FileURL> resolvedURL() const;
+  /// The bundle's URL when resolved, without a copy: for paths that must not allocate.
+  [[nodiscard]] const FileURL* resolvedURLIfAny() const {
+    return kind_ == Kind::resolved ? &urls_.front() : nullptr;
+  }
   /// Every candidate when ambiguous; empty otherwise.
   [[nodiscard]] const std::vector<FileURL>& candidatePaths() const;
   /// "resolved", "ambiguous" or "notFound".

@@ -1,0 +1,119 @@
+// A digit press must decide what to do (look the position up, check the mapping, decide between
+// hiding and switching) without allocating and at the cost of a few map look-ups.
+// BM_HashLookupBaseline is one hash-map find, the yardstick the press is measured against;
+// `allocations` counts the heap allocations per iteration through the counting operator new
+// below, which every benchmark in this binary passes through.
+
+#include "app/ConfigurationFailureReporting.hpp"
+#include "base/InMemoryKeyValueStore.hpp"
+#include "data/AppPreferencesStore.hpp"
+#include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
+
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <new>
+#include <string>
+#include <unordered_map>
+
+namespace {
+
+// The one mutable global of the program: a replaced operator new cannot reach anything else.
+// Benchmarks run on one thread.
+std::size_t allocationCount = 0; // NOLINT
+
+// Out of line, so that the compiler does not pair an inlined free with the operator new above
+// and warn about a mismatch that replacing both sides makes correct.
+[[gnu::noinline]] void release(void* memory) noexcept { std::free(memory); }
+
+} // namespace
+
+void* operator new(std::size_t size) {
+  ++allocationCount;
+  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
+    return memory;
+  }
+  throw std::bad_alloc();
+}
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete(void* memory) noexcept { release(memory); }
+void operator delete[](void* memory) noexcept { release(memory); }
+void operator delete(void* memory, std::size_t) noexcept { release(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
+
+namespace quenby {
+namespace {
+
+AppMapping mappingAt(int position) {
+  const std::string name = "Application Number " + std::to_string(position);
+  const auto url = FileURL::fromPath("/Applications/" + name + ".app");
+  return {.displayName = name,
+          .bundleIdentifier = "com.example.application-number-" + std::to_string(position),
+          .lastKnownURL = url,
+          .resolution = ApplicationResolution::resolved(url),
+          .source = MappingSource::dock(position)};
+}
+
+struct SilentReporter final : ConfigurationFailureReporting {
+  void report(const ConfigurationFailure&) override {}
+};
+
+void reportAllocations(benchmark::State& state, std::size_t before) {
+  state.counters["allocations"] = benchmark::Counter(static_cast<double>(allocationCount - before),
+                                                     benchmark::Counter::kAvgIterations);
+}
+
+void BM_HotKeyPressDecision(benchmark::State& state) {
+  KeyboardMappingSnapshot snapshot;
+  for (int position = 1; position <= 9; ++position) {
+    snapshot.numberEntries.set(position, NumberMappingEntry::mapped(mappingAt(position)));
+  }
+  InertOptionDigitHotKeyBackend backend;
+  InertAppSwitchCommandSubmitter submitter;
+  InertAppSwitchConfigurationFailureHandler failureHandler;
+  SilentReporter reporter;
+  InMemoryKeyValueStore defaults;
+  AppPreferencesStore preferences(defaults, [](const std::string&) {});
+  InertFrontmostApplicationProvider frontmost;
+  InertAppHider hider;
+  EnglishLocalizer localizer;
+  OptionDigitHotKeyRegistrar registrar(
+      {.backend = backend,
+       .mappings = [&]() -> const KeyboardMappingSnapshot& { return snapshot; },
+       .switchCommands = submitter,
+       .failureHandler = failureHandler,
+       .configurationReporter = reporter,
+       .preferences = preferences,
+       .frontmostApplications = frontmost,
+       .appHider = hider,
+       .localizer = localizer});
+  int digit = 0;
+  for (int warmUp = 1; warmUp <= 9; ++warmUp) {
+    registrar.handleHotKey(warmUp);
+  }
+  const std::size_t before = allocationCount;
+  for (auto _ : state) {
+    digit = digit % 9 + 1;
+    registrar.handleHotKey(digit);
+  }
+  reportAllocations(state, before);
+}
+BENCHMARK(BM_HotKeyPressDecision);
+
+void BM_HashLookupBaseline(benchmark::State& state) {
+  std::unordered_map<int, AppMapping> mappings;
+  for (int position = 1; position <= 9; ++position) {
+    mappings.emplace(position, mappingAt(position));
+  }
+  int digit = 0;
+  const std::size_t before = allocationCount;
+  for (auto _ : state) {
+    digit = digit % 9 + 1;
+    auto found = mappings.find(digit);
+    benchmark::DoNotOptimize(found);
+  }
+  reportAllocations(state, before);
+}
+BENCHMARK(BM_HashLookupBaseline);
+
+} // namespace
+} // namespace quenby

@@ -1,0 +1,111 @@
+#include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
+
+#include "base/StringFormatter.hpp"
+#include "shortcuts/hotkeys/OptionDigitHotKeyRegistrationRequest.hpp"
+#include "shortcuts/mapping/NumberMappingEntries.hpp"
+
+namespace quenby {
+namespace {
+
+const char* unavailableSuffix(NumberMappingProblem::Kind kind) {
+  switch (kind) {
+  case NumberMappingProblem::Kind::invalidDockEntry:
+    return "invalid-entry";
+  case NumberMappingProblem::Kind::preferencesUnavailable:
+    return "preferences-unavailable";
+  case NumberMappingProblem::Kind::emptyDockPosition:
+    break;
+  }
+  return "empty-position";
+}
+
+} // namespace
+
+OptionDigitHotKeyRegistrar::OptionDigitHotKeyRegistrar(Collaborators collaborators)
+    : collaborators_(std::move(collaborators)),
+      hidesFrontmostApplication_(collaborators_.preferences.shortcutHidesFrontmostApplication()),
+      hidePreferenceObservation_(
+          collaborators_.preferences.observe([this](AppPreferenceChange change) {
+            if (const auto hides = change.valueIf<bool>(
+                    AppPreferenceProperty::shortcutHidesFrontmostApplication)) {
+              hidesFrontmostApplication_ = *hides;
+            }
+          })) {}
+
+OptionDigitHotKeyRegistrar::~OptionDigitHotKeyRegistrar() { unregisterAll(); }
+
+std::optional<OptionDigitHotKeyError>
+OptionDigitHotKeyRegistrar::start(ActivationModifierPreference modifier) {
+  unregisterAll();
+  activeModifier_ = modifier;
+
+  auto& backend = collaborators_.backend;
+  const std::int32_t installStatus =
+      backend.installHandler(lifetime_.weak([this](int digit) { handleHotKey(digit); }));
+  if (installStatus != 0) {
+    return OptionDigitHotKeyError::installHandler(installStatus);
+  }
+  handlerInstalled_ = true;
+
+  for (const auto& request : OptionDigitHotKeyRegistrationRequest::requestsFor(modifier)) {
+    const std::int32_t status =
+        backend.registerHotKey(request.keyCode, request.modifierFlags, request.identifier);
+    if (status != 0) {
+      unregisterAll();
+      return OptionDigitHotKeyError::registerHotKey(modifier, request.digit, status);
+    }
+    registeredIdentifiers_[registeredCount_++] = request.identifier;
+  }
+  return std::nullopt;
+}
+
+void OptionDigitHotKeyRegistrar::unregisterAll() {
+  while (registeredCount_ > 0) {
+    collaborators_.backend.unregisterHotKey(registeredIdentifiers_[--registeredCount_]);
+  }
+  if (handlerInstalled_) {
+    handlerInstalled_ = false;
+    collaborators_.backend.removeHandler();
+  }
+}
+
+void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
+  if (!NumberMappingEntries::isPosition(digit)) {
+    return;
+  }
+  const NumberMappingEntry& entry = collaborators_.mappings().numberEntries.at(digit);
+  const AppMapping* mapping = entry.mapping();
+  if (mapping == nullptr) {
+    reportUnavailable(digit, *entry.problem());
+    return;
+  }
+  if (auto failure = switchConfigurationFailure(*mapping)) {
+    collaborators_.failureHandler.handleConfigurationFailure(*failure, *mapping);
+    return;
+  }
+  // The frontmost application is asked for only when the answer can matter.
+  if (hidesFrontmostApplication_) {
+    const auto frontmost = collaborators_.frontmostApplications.frontmostBundleIdentifier();
+    if (frontmost && *frontmost == mapping->bundleIdentifier) {
+      collaborators_.appHider.hideIfFrontmost(*mapping);
+      return;
+    }
+  }
+  collaborators_.switchCommands.submit(*mapping);
+}
+
+void OptionDigitHotKeyRegistrar::reportUnavailable(int digit, const NumberMappingProblem& problem) {
+  const auto& localizer = collaborators_.localizer;
+  const std::string explanation = problem.kind() == NumberMappingProblem::Kind::emptyDockPosition
+                                      ? formatLocalized(localizer.localized(kEmptyDockPositionText),
+                                                        {static_cast<long long>(digit)})
+                                      : problem.message();
+  collaborators_.configurationReporter.report({
+      .id = "switch.configuration.dock." + std::to_string(digit) + "." +
+            unavailableSuffix(problem.kind()),
+      .title = localizer.localized(kDockShortcutReadOnlyTitle),
+      .message = formatLocalized(localizer.localized(kDockShortcutReadOnlyMessage), {explanation}),
+  });
+}
+
+} // namespace quenby
