@@ -69,7 +69,7 @@ void BM_HotKeyPressDecision(benchmark::State& state) {
   }
   InertOptionDigitHotKeyBackend backend;
   InertAppSwitchCommandSubmitter submitter;
-  InertAppSwitchConfigurationFailureHandler failureHandler;
+  InertAppSwitchFailureHandler failureHandler;
   SilentReporter reporter;
   InMemoryKeyValueStore defaults;
   AppPreferencesStore preferences(defaults, [](const std::string&) {});

@@ -80,7 +80,8 @@ void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
     return;
   }
   if (auto failure = switchConfigurationFailure(*mapping)) {
-    collaborators_.failureHandler.handleConfigurationFailure(*failure, *mapping);
+    collaborators_.failureHandler.handleFailure(
+        AppSwitchingError::configuration(std::move(*failure)), *mapping);
     return;
   }
   // The frontmost application is asked for only when the answer can matter.

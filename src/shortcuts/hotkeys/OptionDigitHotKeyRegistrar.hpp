@@ -4,12 +4,12 @@
 #include "base/LifetimeGuard.hpp"
 #include "base/Localizer.hpp"
 #include "data/AppPreferencesProviding.hpp"
-#include "shortcuts/hotkeys/AppSwitchConfigurationFailureHandling.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyBackend.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyError.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
 #include "shortcuts/switching/AppHiding.hpp"
 #include "shortcuts/switching/AppSwitchCommandSubmitting.hpp"
+#include "shortcuts/switching/AppSwitchFailureHandling.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
 
 #include <array>
@@ -45,7 +45,7 @@ public:
     OptionDigitHotKeyBackend& backend;
     CurrentMappings mappings;
     AppSwitchCommandSubmitting& switchCommands;
-    AppSwitchConfigurationFailureHandling& failureHandler;
+    AppSwitchFailureHandling& failureHandler;
     ConfigurationFailureReporting& configurationReporter;
     /// Followed for the hide preference, which a press reads without asking the store.
     AppPreferencesProviding& preferences;

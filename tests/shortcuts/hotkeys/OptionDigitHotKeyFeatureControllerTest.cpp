@@ -33,7 +33,7 @@ struct Fixture {
   RecordingHotKeyBackend backend;
   KeyboardMappingSnapshot snapshot;
   InertAppSwitchCommandSubmitter submitter;
-  InertAppSwitchConfigurationFailureHandler failureHandler;
+  InertAppSwitchFailureHandler failureHandler;
   struct : ConfigurationFailureReporting {
     void report(const ConfigurationFailure&) override {}
   } reporter;

@@ -6,6 +6,7 @@
 #include "data/AppPreferencesStore.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrationRequest.hpp"
 #include "shortcuts/hotkeys/RecordingHotKeyBackend.hpp"
+#include "support/RecordingAppSwitchFailureHandler.hpp"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -28,14 +29,6 @@ AppMapping dockMapping(int position, std::string bundleIdentifier, std::string p
 struct RecordingSubmitter final : AppSwitchCommandSubmitting {
   void submit(const AppMapping& mapping) override { submitted.push_back(mapping); }
   std::vector<AppMapping> submitted;
-};
-
-struct RecordingFailureHandler final : AppSwitchConfigurationFailureHandling {
-  void handleConfigurationFailure(const AppSwitchConfigurationFailure& failure,
-                                  const AppMapping& mapping) override {
-    failures.emplace_back(failure, mapping);
-  }
-  std::vector<std::pair<AppSwitchConfigurationFailure, AppMapping>> failures;
 };
 
 struct RecordingPresenter final : ConfigurationFailurePresenting {
@@ -65,7 +58,7 @@ struct Fixture {
   RecordingHotKeyBackend backend;
   KeyboardMappingSnapshot snapshot;
   RecordingSubmitter submitter;
-  RecordingFailureHandler failureHandler;
+  RecordingAppSwitchFailureHandler failureHandler;
   InMemoryKeyValueStore defaults;
   RecordingPresenter presenter;
   OneTimeConfigurationFailureReporter reporter{defaults, &presenter};
@@ -206,10 +199,12 @@ TEST(OptionDigitHotKeyRegistrarTest, AMappingThatCannotBeOpenedIsHandedToTheFail
   }
   ASSERT_EQ(f.failureHandler.failures.size(), 2U);
   EXPECT_EQ(f.failureHandler.failures[0].first,
-            AppSwitchConfigurationFailure::unresolved(ApplicationResolutionProblem::notFound()));
+            AppSwitchingError::configuration(AppSwitchConfigurationFailure::unresolved(
+                ApplicationResolutionProblem::notFound())));
   EXPECT_EQ(f.failureHandler.failures[0].second, unresolved);
   EXPECT_EQ(f.failureHandler.failures[1].first,
-            AppSwitchConfigurationFailure::invalidResolvedURL(notABundle.lastKnownURL));
+            AppSwitchingError::configuration(
+                AppSwitchConfigurationFailure::invalidResolvedURL(notABundle.lastKnownURL)));
   // A failed check never hides, even when the mapped application is frontmost.
   EXPECT_TRUE(f.hider.hiddenMappings().empty());
   EXPECT_EQ(f.submitter.submitted, std::vector<AppMapping>{capitals});
