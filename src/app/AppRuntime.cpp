@@ -8,6 +8,7 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
     : platform_(std::move(platform)), shell_(platform_.base, platform_.app),
       data_(platform_.base, platform_.data, shell_.configurationReporter()),
       shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(), data_.usage(),
+                 data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       lifecycle_(makeLifecycle()) {}
 
@@ -19,6 +20,8 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.startDock = [this] { shortcuts_.startDock(); };
   lifecycle.initialSnapshot = [this] { return shortcuts_.mappingSnapshot(); };
   lifecycle.startCatalogMonitoring = [this] { shortcuts_.startCatalogMonitoring(); };
+  lifecycle.startOptionDigits = [this] { shortcuts_.startOptionDigits(); };
+  lifecycle.stopOptionDigits = [this] { shortcuts_.stopOptionDigits(); };
   lifecycle.stopSwitchCommands = [this] { shortcuts_.stopSwitchCommands(); };
   lifecycle.stopCatalogMonitoring = [this] { shortcuts_.stopCatalogMonitoring(); };
   lifecycle.stopMappings = [this] { shortcuts_.stopMappings(); };

@@ -20,7 +20,8 @@ AppSwitchFailureHandler::TransientObserver loggingTransientObserver(Logger& logg
 
 ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
                                      ConfigurationFailureReporting& configurationReporter,
-                                     UsageAnalyticsRecording& usageAnalytics, Options options)
+                                     UsageAnalyticsRecording& usageAnalytics,
+                                     AppPreferencesProviding& preferences, Options options)
     : metadataReader_(*base.fileSystem, *base.propertyListDecoder),
       resolver_(*platform.applicationLocator, metadataReader_, *base.fileSystem),
       catalogDistributedObserver_(*base.distributedNotificationCenter),
@@ -38,6 +39,18 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
                       loggingTransientObserver(*base.logger, *base.localizer), *base.localizer),
       switchCommands_(appSwitcher_, failureHandler_, usageAnalytics, *base.scheduler),
       appHider_(platform.frontmostHidableApplication),
-      frontmostApplication_(platform.frontmostApplication) {}
+      frontmostApplication_(platform.frontmostApplication),
+      optionDigitRegistrar_({.backend = *platform.hotKeyBackend,
+                             .mappings = [this]() -> const KeyboardMappingSnapshot& {
+                               return letterStore_.snapshot();
+                             },
+                             .switchCommands = switchCommands_,
+                             .failureHandler = failureHandler_,
+                             .configurationReporter = configurationReporter,
+                             .preferences = preferences,
+                             .frontmostApplications = *frontmostApplication_,
+                             .appHider = appHider_,
+                             .localizer = *base.localizer}),
+      optionDigits_(optionDigitRegistrar_, preferences, *platform.symbolicHotKeys) {}
 
 } // namespace quenby

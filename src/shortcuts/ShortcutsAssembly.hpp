@@ -2,6 +2,7 @@
 
 #include "app/ConfigurationFailureReporting.hpp"
 #include "base/BasePlatform.hpp"
+#include "data/AppPreferencesProviding.hpp"
 #include "data/usage/UsageAnalyticsRecording.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
@@ -9,6 +10,8 @@
 #include "shortcuts/catalog/WorkspaceApplicationCatalogMonitor.hpp"
 #include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
 #include "shortcuts/dock/DockNumberMappingProvider.hpp"
+#include "shortcuts/hotkeys/OptionDigitHotKeyFeatureController.hpp"
+#include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
 #include "shortcuts/mapping/KeyboardMappingStore.hpp"
 #include "shortcuts/switching/AppSwitchCommandQueue.hpp"
@@ -33,7 +36,8 @@ public:
   /// `configurationReporter`.
   ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
                     ConfigurationFailureReporting& configurationReporter,
-                    UsageAnalyticsRecording& usageAnalytics, Options options);
+                    UsageAnalyticsRecording& usageAnalytics, AppPreferencesProviding& preferences,
+                    Options options);
   ShortcutsAssembly(const ShortcutsAssembly&) = delete;
   ShortcutsAssembly& operator=(const ShortcutsAssembly&) = delete;
 
@@ -52,6 +56,9 @@ public:
   void stopCatalogMonitoring() { catalogMonitor_.stop(); }
   /// Pending switches are dropped and no new ones are accepted.
   void stopSwitchCommands() { switchCommands_.stop(); }
+  /// Registers the modifier-digit hot keys and follows the modifier preference.
+  void startOptionDigits() { optionDigits_.start(); }
+  void stopOptionDigits() { optionDigits_.stop(); }
   /// The mappings as they stand: the Dock's positions and the letters.
   [[nodiscard]] const KeyboardMappingSnapshot& mappingSnapshot() const {
     return letterStore_.snapshot();
@@ -62,6 +69,9 @@ public:
   }
   [[nodiscard]] WorkspaceApplicationResolver& resolver() { return resolver_; }
   [[nodiscard]] KeyboardMappingStore& letterStore() { return letterStore_; }
+  [[nodiscard]] const OptionDigitHotKeyFeatureController& optionDigits() const {
+    return optionDigits_;
+  }
   [[nodiscard]] AppSwitchCommandQueue& switchCommands() { return switchCommands_; }
   [[nodiscard]] AppSwitchFailureHandling& switchFailureHandler() { return failureHandler_; }
   [[nodiscard]] AppHiding& appHider() { return appHider_; }
@@ -81,6 +91,8 @@ private:
   AppSwitchCommandQueue switchCommands_;
   WorkspaceAppHider appHider_;
   std::shared_ptr<FrontmostApplicationProviding> frontmostApplication_;
+  OptionDigitHotKeyRegistrar optionDigitRegistrar_;
+  OptionDigitHotKeyFeatureController optionDigits_;
 };
 
 } // namespace quenby

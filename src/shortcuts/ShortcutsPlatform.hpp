@@ -4,6 +4,8 @@
 #include "shortcuts/catalog/ApplicationWorkspaceNotificationObserving.hpp"
 #include "shortcuts/catalog/InstalledApplicationLocating.hpp"
 #include "shortcuts/dock/DockPreferenceReading.hpp"
+#include "shortcuts/hotkeys/OptionDigitHotKeyBackend.hpp"
+#include "shortcuts/hotkeys/SystemSymbolicHotKeyReading.hpp"
 #include "shortcuts/switching/ApplicationOpening.hpp"
 #include "shortcuts/switching/ApplicationPresenceChecking.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
@@ -31,6 +33,10 @@ struct ShortcutsPlatform {
   FrontmostHidableApplicationSource frontmostHidableApplication = [] {
     return std::unique_ptr<HidableApplication>();
   };
+  std::shared_ptr<OptionDigitHotKeyBackend> hotKeyBackend =
+      std::make_shared<InertOptionDigitHotKeyBackend>();
+  std::shared_ptr<SystemSymbolicHotKeyReading> symbolicHotKeys =
+      std::make_shared<InertSystemSymbolicHotKeyReader>();
 
   /// An empty Dock, no applications, no notifications, nothing in front; opening succeeds
   /// without opening anything.

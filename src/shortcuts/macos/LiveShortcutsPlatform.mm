@@ -10,6 +10,8 @@
 #include "shortcuts/catalog/macos/WorkspaceApplicationLocator.hpp"
 #include "shortcuts/dock/SystemDockPreferenceReader.hpp"
 #include "shortcuts/dock/macos/SystemDockPreferences.hpp"
+#include "shortcuts/hotkeys/macos/CarbonOptionDigitHotKeyBackend.hpp"
+#include "shortcuts/hotkeys/macos/SystemSymbolicHotKeyReader.hpp"
 #include "shortcuts/switching/macos/FileManagerApplicationPresenceChecker.hpp"
 #include "shortcuts/switching/macos/RunningApplicationHideTarget.hpp"
 #include "shortcuts/switching/macos/WorkspaceApplicationOpener.hpp"
@@ -31,6 +33,8 @@ ShortcutsPlatform makeLiveShortcutsPlatform() {
       .applicationPresenceChecker = std::make_shared<FileManagerApplicationPresenceChecker>(),
       .frontmostApplication = std::make_shared<WorkspaceFrontmostApplicationProvider>(),
       .frontmostHidableApplication = [] { return RunningApplicationHideTarget::frontmost(); },
+      .hotKeyBackend = std::make_shared<CarbonOptionDigitHotKeyBackend>(),
+      .symbolicHotKeys = std::make_shared<SystemSymbolicHotKeyReader>(),
   };
 }
 
