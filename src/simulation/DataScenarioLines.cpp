@@ -60,12 +60,22 @@ void registerDataScenarioLines(ScenarioLineRegistry& registry) {
     context.world().mouse() = Point{parseReal(arguments[1]), parseReal(arguments[2])};
   });
   registry.addLine("pref", prefLine);
+  registry.addLine("reset-usage", [](ScenarioContext& context, const Arguments& arguments) {
+    expectArgumentCount(arguments, 1, 1, "reset-usage");
+    context.requireRuntime("reset-usage")->data().usage().reset();
+  });
   registry.addStateFields(
       [](const ScenarioContext&, AppRuntime* runtime, nlohmann::ordered_json& fields) {
         if (runtime == nullptr) {
           fields["preferences"] = nullptr;
           return;
         }
+        const UsageTotals& totals = runtime->data().usage().lifetimeTotals();
+        auto usage = nlohmann::ordered_json::object();
+        for (const UsageCategory category : kUsageCategories) {
+          usage[std::string(usageCategoryRawValue(category))] = totals[category];
+        }
+        fields["usage"] = std::move(usage);
         auto preferences = nlohmann::ordered_json::object();
         for (const auto& [name, value] : runtime->data().preferences().rawValues()) {
           preferences[name] = propertyListJSON(value);

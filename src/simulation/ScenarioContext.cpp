@@ -20,14 +20,19 @@ void ScenarioContext::launch() {
   application_ = std::make_unique<AppLaunchController>(
       AppLaunchContext::fromEnvironment(environment),
       [this, environment]() -> std::unique_ptr<AppCoordinating> {
-        auto coordinator = makeAppCoordinator(makeSimulatedPlatformServices(world_, recorder_),
-                                              environment, &runtime_);
+        SimulatedProcess process = makeSimulatedProcess(world_, recorder_);
+        hotKeys_ = process.hotKeys;
+        auto coordinator = makeAppCoordinator(std::move(process.services), environment, &runtime_);
         coordinator_ = coordinator.get();
         return coordinator;
       },
       [] { return std::make_unique<InertStatusItemPresenter>(); });
   hasTerminated_ = false;
   application_->applicationDidFinishLaunching();
+  // Registration passes made while starting are told before launching is.
+  if (hotKeys_) {
+    hotKeys_->flush();
+  }
   recorder_.emit("launched", {{"menuBarExtra", application_->hasStatusItem()}});
 }
 
@@ -36,7 +41,11 @@ void ScenarioContext::terminate() {
     return; // nothing running: quitting twice does nothing
   }
   application_->applicationWillTerminate();
+  if (hotKeys_) {
+    hotKeys_->flush();
+  }
   application_.reset();
+  hotKeys_.reset();
   coordinator_ = nullptr;
   hasTerminated_ = true;
   recorder_.emit("terminated");
@@ -51,6 +60,13 @@ std::string_view ScenarioContext::coordinatorState() const {
 
 std::shared_ptr<AppRuntime> ScenarioContext::runtime() const {
   return application_ ? runtime_.lock() : nullptr;
+}
+
+SimulatedHotKeyBackend& ScenarioContext::requireHotKeys(std::string_view line) const {
+  if (!application_ || !hotKeys_) {
+    throw ScenarioLineError{std::string(line) + " needs a launched application"};
+  }
+  return *hotKeys_;
 }
 
 std::shared_ptr<AppRuntime> ScenarioContext::requireRuntime(std::string_view line) const {

@@ -2,6 +2,7 @@
 
 #include "base/FileURL.hpp"
 #include "simulation/ScenarioEventRecorder.hpp"
+#include "simulation/SimulatedHotKeyBackend.hpp"
 #include "simulation/SimulatedWorld.hpp"
 
 #include <memory>
@@ -37,6 +38,9 @@ public:
   [[nodiscard]] std::string_view coordinatorState() const;
   /// The running process's graph, or null.
   [[nodiscard]] std::shared_ptr<AppRuntime> runtime() const;
+  /// The running process's hot keys, or a line error saying that `line` needs a launched
+  /// application.
+  [[nodiscard]] SimulatedHotKeyBackend& requireHotKeys(std::string_view line) const;
   /// The running graph, or a line error saying that `line` needs a launched application.
   [[nodiscard]] std::shared_ptr<AppRuntime> requireRuntime(std::string_view line) const;
 
@@ -52,6 +56,7 @@ private:
   std::unique_ptr<AppLaunchController> application_;
   AppCoordinator* coordinator_ = nullptr;
   std::weak_ptr<AppRuntime> runtime_;
+  std::shared_ptr<SimulatedHotKeyBackend> hotKeys_;
   bool hasTerminated_ = false;
 };
 

@@ -40,5 +40,6 @@ private:
 void registerAppShellScenarioLines(ScenarioLineRegistry& registry);
 void registerDataScenarioLines(ScenarioLineRegistry& registry);
 void registerShortcutsScenarioLines(ScenarioLineRegistry& registry);
+void registerSwitchingScenarioLines(ScenarioLineRegistry& registry);
 
 } // namespace quenby

@@ -10,23 +10,20 @@ namespace quenby {
 namespace {
 
 /// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{"permission",   "hotkey-taken",  "frontmost",
-                                        "fullscreen",   "running",       "terminated",
-                                        "layout",       "reduce-motion", "open-fails",
-                                        "open-latency", "hotkey",        "hotkey-event",
-                                        "modifier",     "modifier-lost", "key",
-                                        "press",        "tap-disable",   "tap-reenable-fails",
-                                        "click",        "drag",          "menu",
-                                        "alert",        "assign",        "unassign",
-                                        "reset-usage"};
+constexpr std::array kLaterFeatureLines{
+    "permission", "layout", "reduce-motion", "modifier",           "modifier-lost",
+    "key",        "press",  "tap-disable",   "tap-reenable-fails", "click",
+    "drag",       "menu",   "alert",         "secure-input",       "tap-deaf"};
 
 } // namespace
 
 ScenarioRunner::ScenarioRunner(ScenarioEventSink& sink, std::string scriptDirectory)
     : context_(sink, std::move(scriptDirectory)) {
+  // Also the order of the state line's fields.
   registerAppShellScenarioLines(lines_);
-  registerDataScenarioLines(lines_);
   registerShortcutsScenarioLines(lines_);
+  registerSwitchingScenarioLines(lines_);
+  registerDataScenarioLines(lines_);
 }
 
 ScenarioRunner::~ScenarioRunner() = default;

@@ -5,6 +5,7 @@
 #include "simulation/SimulatedFailurePanelFactory.hpp"
 #include "simulation/SimulatedLogger.hpp"
 #include "simulation/SimulatedWindowPlacementSnapshotProvider.hpp"
+#include "simulation/SimulatedWorkspaceAdapters.hpp"
 
 namespace quenby {
 namespace {
@@ -23,8 +24,10 @@ BasePlatform simulatedBase(SimulatedWorld& world, const ScenarioEventRecorder& r
   };
 }
 
-ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world) {
+ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world, const ScenarioEventRecorder& recorder,
+                                     const std::shared_ptr<SimulatedHotKeyBackend>& hotKeys) {
   SimulatedDock& dock = world.dock();
+  auto workspace = std::make_shared<SimulatedWorkspaceAdapters>(world, recorder);
   return {
       .dockPreferenceReader = std::make_shared<SystemDockPreferenceReader>(
           [&dock] { return dock.synchronize(); }, [&dock] { return dock.copyPersistentApps(); }),
@@ -33,21 +36,34 @@ ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world) {
       // are what the simulated Mac offers the catalog.
       .spotlightQuery = std::make_shared<InertApplicationSpotlightQuery>(),
       .workspaceNotifications = std::make_shared<InertApplicationWorkspaceNotificationObserver>(),
+      .applicationOpener = workspace,
+      .applicationPresenceChecker = workspace,
+      .frontmostApplication = workspace,
+      .frontmostHidableApplication =
+          [workspace] { return workspace->frontmostHidableApplication(); },
+      .hotKeyBackend = hotKeys,
+      .symbolicHotKeys = hotKeys,
   };
 }
 
 } // namespace
 
-PlatformServices makeSimulatedPlatformServices(SimulatedWorld& world,
-                                               const ScenarioEventRecorder& recorder) {
+SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
+                                      const ScenarioEventRecorder& recorder) {
+  auto hotKeys = std::make_shared<SimulatedHotKeyBackend>(world, recorder);
   return {
-      .base = simulatedBase(world, recorder),
-      .app = {.activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
-              .failurePanelFactory = std::make_shared<SimulatedFailurePanelFactory>(recorder)},
-      .shortcuts = simulatedShortcuts(world),
-      .data = {.windowPlacementSnapshotProvider =
-                   std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
-               .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
+      .services =
+          {
+              .base = simulatedBase(world, recorder),
+              .app = {.activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
+                      .failurePanelFactory =
+                          std::make_shared<SimulatedFailurePanelFactory>(recorder)},
+              .shortcuts = simulatedShortcuts(world, recorder, hotKeys),
+              .data = {.windowPlacementSnapshotProvider =
+                           std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
+                       .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
+          },
+      .hotKeys = hotKeys,
   };
 }
 

@@ -10,7 +10,9 @@
 #include "simulation/SimulatedApplications.hpp"
 #include "simulation/SimulatedDistributedNotificationCenter.hpp"
 #include "simulation/SimulatedDock.hpp"
+#include "simulation/SimulatedHotKeys.hpp"
 #include "simulation/SimulatedLaunchServices.hpp"
+#include "simulation/SimulatedWorkspace.hpp"
 #include "simulation/TemporaryDirectory.hpp"
 
 #include <memory>
@@ -62,6 +64,8 @@ public:
   }
   [[nodiscard]] SimulatedApplications& applications() { return applications_; }
   [[nodiscard]] SimulatedDock& dock() { return dock_; }
+  [[nodiscard]] SimulatedWorkspace& workspace() { return workspace_; }
+  [[nodiscard]] SimulatedHotKeys& hotKeys() { return hotKeys_; }
 
   [[nodiscard]] Environment& environment() { return environment_; }
   [[nodiscard]] std::vector<SimulatedScreen>& screens() { return screens_; }
@@ -87,6 +91,8 @@ private:
       std::make_shared<SimulatedDistributedNotificationCenter>();
   SimulatedApplications applications_{decoder_, *launchServices_, *notificationCenter_};
   SimulatedDock dock_{fileSystem_, decoder_};
+  SimulatedWorkspace workspace_;
+  SimulatedHotKeys hotKeys_;
   Environment environment_;
   std::vector<SimulatedScreen> screens_;
   Point mouse_{720, 450};

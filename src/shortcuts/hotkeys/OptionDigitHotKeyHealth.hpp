@@ -19,6 +19,18 @@ public:
   }
 
   [[nodiscard]] Kind kind() const { return kind_; }
+  /// The case as the simulation and logs name it: "notStarted", "ready", "registrationFailed".
+  [[nodiscard]] static constexpr const char* kindName(Kind kind) {
+    switch (kind) {
+    case Kind::notStarted:
+      return "notStarted";
+    case Kind::ready:
+      return "ready";
+    case Kind::registrationFailed:
+      break;
+    }
+    return "registrationFailed";
+  }
   /// The failure; null unless registration failed.
   [[nodiscard]] const OptionDigitHotKeyError* error() const { return error_ ? &*error_ : nullptr; }
 
