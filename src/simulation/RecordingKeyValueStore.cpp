@@ -9,7 +9,14 @@ std::optional<PropertyListValue> RecordingKeyValueStore::object(std::string_view
 }
 
 void RecordingKeyValueStore::set(std::string_view key, PropertyListValue value) {
-  recorder_.emit("write", {{"key", key}, {"value", propertyListJSON(value)}});
+  PropertyListValue printed = value;
+  if (const auto* text = value.string()) {
+    printed = display_(*text);
+  } else if (const auto* bytes = value.data()) {
+    const std::string shown = display_(std::string(bytes->begin(), bytes->end()));
+    printed = PropertyListValue::Data(shown.begin(), shown.end());
+  }
+  recorder_.emit("write", {{"key", key}, {"value", propertyListJSON(printed)}});
   domain_->set(key, std::move(value));
 }
 

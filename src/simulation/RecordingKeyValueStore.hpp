@@ -3,17 +3,23 @@
 #include "base/KeyValueStore.hpp"
 #include "simulation/ScenarioEventRecorder.hpp"
 
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace quenby {
 
 /// The program's view of the simulated user defaults: every write and removal it makes is
-/// printed as a `write` or `remove` effect before it reaches the shared domain.
+/// printed as a `write` or `remove` effect before it reaches the shared domain. Texts and data
+/// are printed as `display` rewrites them (paths below the simulated disk without its location),
+/// so that a transcript does not depend on where the disk happens to be.
 class RecordingKeyValueStore final : public KeyValueStore {
 public:
+  using Display = std::function<std::string(std::string)>;
+
   RecordingKeyValueStore(std::shared_ptr<KeyValueStore> domain,
-                         const ScenarioEventRecorder& recorder)
-      : domain_(std::move(domain)), recorder_(recorder) {}
+                         const ScenarioEventRecorder& recorder, Display display)
+      : domain_(std::move(domain)), recorder_(recorder), display_(std::move(display)) {}
 
   [[nodiscard]] std::optional<PropertyListValue> object(std::string_view key) const override;
   void set(std::string_view key, PropertyListValue value) override;
@@ -22,6 +28,7 @@ public:
 private:
   std::shared_ptr<KeyValueStore> domain_;
   const ScenarioEventRecorder& recorder_;
+  Display display_;
 };
 
 } // namespace quenby

@@ -12,7 +12,9 @@ namespace {
 
 BasePlatform simulatedBase(SimulatedWorld& world, const ScenarioEventRecorder& recorder) {
   return {
-      .userDefaults = std::make_shared<RecordingKeyValueStore>(world.defaults(), recorder),
+      .userDefaults = std::make_shared<RecordingKeyValueStore>(
+          world.defaults(), recorder,
+          [&world](std::string text) { return world.withoutDiskPrefix(std::move(text)); }),
       .scheduler = world.scheduler(),
       .clock = world.scheduler(),
       .wallClock = world.wallClock(),

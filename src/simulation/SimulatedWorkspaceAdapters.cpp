@@ -7,7 +7,8 @@ class SimulatedHidableApplication final : public HidableApplication {
 public:
   SimulatedHidableApplication(SimulatedWorkspace& workspace, const ScenarioEventRecorder& recorder,
                               std::string bundleIdentifier)
-      : workspace_(workspace), recorder_(recorder), bundleIdentifier_(std::move(bundleIdentifier)) {}
+      : workspace_(workspace), recorder_(recorder), bundleIdentifier_(std::move(bundleIdentifier)) {
+  }
 
   [[nodiscard]] std::optional<std::string> bundleIdentifier() const override {
     return bundleIdentifier_;

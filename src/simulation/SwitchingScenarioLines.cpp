@@ -59,8 +59,8 @@ void systemShortcutLine(ScenarioContext& context, const Arguments& arguments) {
 void assignLine(ScenarioContext& context, const Arguments& arguments) {
   expectArgumentCount(arguments, 3, 3, "assign LETTER PATH");
   const auto runtime = context.requireRuntime("assign");
-  const auto assigned =
-      runtime->shortcuts().letterStore().setLetterMapping(arguments[1], context.diskURL(arguments[2]));
+  const auto assigned = runtime->shortcuts().letterStore().setLetterMapping(
+      arguments[1], context.diskURL(arguments[2]));
   if (!assigned) {
     throw ScenarioLineError{assigned.error().message(*runtime->platform().base.localizer)};
   }
@@ -107,8 +107,8 @@ void registerSwitchingScenarioLines(ScenarioLineRegistry& registry) {
   registry.addLine("hotkey", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 2, 2, "hotkey DIGIT");
     const int digit = parseDigit(arguments[1]);
-    context.requireHotKeys("hotkey")
-        .deliver(OptionDigitHotKeyRegistrationRequest::kSignature, static_cast<std::uint32_t>(digit));
+    context.requireHotKeys("hotkey").deliver(OptionDigitHotKeyRegistrationRequest::kSignature,
+                                             static_cast<std::uint32_t>(digit));
   });
   registry.addLine("hotkey-event", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 3, 3, "hotkey-event SIGNATURE ID");
