@@ -52,6 +52,25 @@ std::string describeState(const ScenarioEvent& event) {
   if (dock != event.fields.end() && dock->is_array()) {
     sentence.append(kIndent).append("Dock:").append(describeDock(*dock, control ? "⌃" : "⌥"));
   }
+  const auto letters = event.fields.find("letters");
+  if (letters != event.fields.end() && letters->is_object() && !letters->empty()) {
+    sentence.append(kIndent).append("Letters:");
+    for (const auto& [letter, mapping] : letters->items()) {
+      sentence.append(" ").append(control ? "⌃" : "⌥").append(letter).append(" ");
+      sentence.append(text(mapping.value("path", nlohmann::ordered_json())));
+      sentence.append(" (").append(text(mapping.value("resolution", nlohmann::ordered_json())));
+      sentence.append(")");
+    }
+  }
+  const auto usage = event.fields.find("usage");
+  if (usage != event.fields.end() && usage->is_object()) {
+    sentence.append(kIndent).append("Usage: ");
+    sentence.append(text(usage->value("optionDigit", nlohmann::ordered_json())))
+        .append(" by digit, ");
+    sentence.append(text(usage->value("optionLetter", nlohmann::ordered_json())))
+        .append(" by letter, ");
+    sentence.append(text(usage->value("hud", nlohmann::ordered_json()))).append(" from the HUD.");
+  }
   sentence.append(kIndent).append("Preferences:");
   std::string_view separator = " ";
   for (const auto& [name, value] : preferences->items()) {
@@ -74,10 +93,40 @@ std::string NarratingEventWriter::sentence(const ScenarioEvent& event) {
     return "Quenby quit.";
   }
   if (name == "write") {
+    const auto value = event.fields.find("value");
+    if (value != event.fields.end() && value->is_object() && value->contains("base64")) {
+      return "Saved the document " + field(event, "key") + ".";
+    }
     return "Saved the setting " + field(event, "key") + " = " + field(event, "value") + ".";
   }
   if (name == "remove") {
     return "Removed the setting " + field(event, "key") + ".";
+  }
+  if (name == "hotkeys") {
+    const auto registered = event.fields.find("registered");
+    if (registered == event.fields.end() || !registered->is_array() || registered->empty()) {
+      return "Unregistered the digit hot keys.";
+    }
+    const std::string modifier = field(event, "modifier") == "control" ? "⌃" : "⌥";
+    std::string digits;
+    for (const auto& digit : *registered) {
+      digits.append(digits.empty() ? "" : " ").append(modifier).append(text(digit));
+    }
+    return "Registered the hot keys " + digits + ".";
+  }
+  if (name == "open") {
+    return "Opening " + field(event, "path") + ".";
+  }
+  if (name == "opened") {
+    const auto ok = event.fields.find("ok");
+    const bool opened = ok != event.fields.end() && ok->is_boolean() && ok->get<bool>();
+    return (opened ? "Opened " : "The workspace could not open ") + field(event, "path") + ".";
+  }
+  if (name == "hide") {
+    const auto ok = event.fields.find("ok");
+    const bool hidden = ok != event.fields.end() && ok->is_boolean() && ok->get<bool>();
+    return hidden ? "Hid " + field(event, "bundle") + ", which was in front."
+                  : field(event, "bundle") + " refused to hide.";
   }
   if (name == "log") {
     return "Logged an error: " + field(event, "message");
