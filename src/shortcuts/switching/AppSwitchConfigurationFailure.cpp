@@ -12,8 +12,9 @@ std::string AppSwitchConfigurationFailure::description(const Localizer& localize
 }
 
 std::optional<AppSwitchConfigurationFailure> switchConfigurationFailure(const AppMapping& mapping) {
-  const auto url = mapping.launchURL();
-  if (!url) {
+  // Read in place: a digit press runs this check and must not allocate on its way to a switch.
+  const FileURL* url = mapping.resolution.resolvedURLIfAny();
+  if (url == nullptr) {
     // A mapping without a launch URL always has a problem to name.
     return AppSwitchConfigurationFailure::unresolved(*mapping.problem());
   }
