@@ -4,17 +4,17 @@ namespace quenby {
 
 namespace {
 
-using Duration = WallTime::duration;
+using WallDuration = WallTime::duration;
 using Days = std::chrono::duration<std::int64_t, std::ratio<86400>>;
 
 /// `time + delta` when both it and its local-day arithmetic stay representable. A day of margin
 /// at each end keeps `floor` to a day from overflowing too.
-std::optional<WallTime> shifted(WallTime time, Duration delta) {
-  constexpr Duration margin = std::chrono::duration_cast<Duration>(Days{2});
-  const Duration lowest = Duration::min() + margin;
-  const Duration highest = Duration::max() - margin;
-  const Duration since = time.time_since_epoch();
-  if (delta > Duration::zero() ? since > highest - delta : since < lowest - delta) {
+std::optional<WallTime> shifted(WallTime time, WallDuration delta) {
+  constexpr WallDuration margin = std::chrono::duration_cast<WallDuration>(Days{2});
+  const WallDuration lowest = WallDuration::min() + margin;
+  const WallDuration highest = WallDuration::max() - margin;
+  const WallDuration since = time.time_since_epoch();
+  if (delta > WallDuration::zero() ? since > highest - delta : since < lowest - delta) {
     return std::nullopt;
   }
   return time + delta;
@@ -23,7 +23,7 @@ std::optional<WallTime> shifted(WallTime time, Duration delta) {
 } // namespace
 
 FixedOffsetUsageCalendar::FixedOffsetUsageCalendar(std::chrono::seconds utcOffset)
-    : offset_(std::chrono::duration_cast<Duration>(utcOffset)) {}
+    : offset_(std::chrono::duration_cast<WallDuration>(utcOffset)) {}
 
 std::optional<WallTime> FixedOffsetUsageCalendar::local(WallTime time) const {
   return shifted(time, offset_);
@@ -44,7 +44,7 @@ std::optional<WallTime> FixedOffsetUsageCalendar::addingDays(std::int64_t days,
   if (days > limit || days < -limit) {
     return std::nullopt;
   }
-  return shifted(time, std::chrono::duration_cast<Duration>(Days{days}));
+  return shifted(time, std::chrono::duration_cast<WallDuration>(Days{days}));
 }
 
 std::optional<std::chrono::year_month_day> FixedOffsetUsageCalendar::day(WallTime time) const {
