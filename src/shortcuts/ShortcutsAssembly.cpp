@@ -41,7 +41,13 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
       appHider_(platform.frontmostHidableApplication),
       frontmostApplication_(platform.frontmostApplication),
       optionDigitRegistrar_({.backend = *platform.hotKeyBackend,
+                             // A press re-reads the Dock first: App Nap may have stretched the
+                             // poll, and a press must never reach a stale position. An unchanged
+                             // Dock costs one read and one comparison.
                              .mappings = [this]() -> const KeyboardMappingSnapshot& {
+                               if (dockNumberProvider_.isRunning()) {
+                                 dockNumberProvider_.reload(false);
+                               }
                                return letterStore_.snapshot();
                              },
                              .switchCommands = switchCommands_,

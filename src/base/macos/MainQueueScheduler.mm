@@ -13,7 +13,7 @@
 // 0.5 s polls (Dock, catalog) to several seconds. We take no activity assertion: it would keep
 // the process out of App Nap for the whole session, all day on battery, for polls that are only
 // a backstop. The Dock's and Launch Services' distributed notifications are registered to be
-// delivered immediately and wake the process on every real change; the digit press is to re-read
+// delivered immediately and wake the process on every real change; the digit press re-reads
 // the Dock before it acts, which costs one preferences synchronisation and one comparison when
 // nothing changed, so a late poll never sends a press to a stale application. What we do give
 // the system is a tolerance of a tenth of the interval on repeating timers, so it can coalesce
