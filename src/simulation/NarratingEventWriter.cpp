@@ -138,6 +138,32 @@ std::string NarratingEventWriter::sentence(const ScenarioEvent& event) {
   if (name == "state") {
     return describeState(event);
   }
+  if (name == "key") {
+    const bool down = event.fields.value("down", false);
+    const bool repeat = event.fields.value("repeat", false);
+    const bool consumed = field(event, "disposition") == "consume";
+    return std::string(repeat ? "Key repeat "
+                       : down ? "Key down "
+                              : "Key up ") +
+           field(event, "code") +
+           (consumed ? ": swallowed by Quenby." : ": passed on to the application in front.");
+  }
+  if (name == "hud") {
+    if (!event.fields.value("visible", false)) {
+      return "The HUD closed.";
+    }
+    return "The HUD opened at " + field(event, "frame") + ", opacity " + field(event, "alpha") +
+           ", " + field(event, "appearance") + " appearance.";
+  }
+  if (name == "prompt") {
+    return "macOS asked the user to grant " +
+           std::string(field(event, "permission") == "accessibility" ? "Accessibility"
+                                                                     : "Input Monitoring") +
+           " access.";
+  }
+  if (name == "open-url") {
+    return "Opened " + field(event, "url") + ".";
+  }
   std::string sentence = name;
   for (const auto& [key, value] : event.fields.items()) {
     sentence.append(" ").append(key).append("=").append(text(value));

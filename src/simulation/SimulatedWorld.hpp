@@ -11,6 +11,7 @@
 #include "simulation/SimulatedDistributedNotificationCenter.hpp"
 #include "simulation/SimulatedDock.hpp"
 #include "simulation/SimulatedHotKeys.hpp"
+#include "simulation/SimulatedKeyboard.hpp"
 #include "simulation/SimulatedLaunchServices.hpp"
 #include "simulation/SimulatedWorkspace.hpp"
 #include "simulation/TemporaryDirectory.hpp"
@@ -66,6 +67,7 @@ public:
   [[nodiscard]] SimulatedDock& dock() { return dock_; }
   [[nodiscard]] SimulatedWorkspace& workspace() { return workspace_; }
   [[nodiscard]] SimulatedHotKeys& hotKeys() { return hotKeys_; }
+  [[nodiscard]] SimulatedKeyboard& keyboard() { return keyboard_; }
 
   [[nodiscard]] Environment& environment() { return environment_; }
   [[nodiscard]] std::vector<SimulatedScreen>& screens() { return screens_; }
@@ -93,6 +95,7 @@ private:
   SimulatedDock dock_{fileSystem_, decoder_};
   SimulatedWorkspace workspace_;
   SimulatedHotKeys hotKeys_;
+  SimulatedKeyboard keyboard_;
   Environment environment_;
   std::vector<SimulatedScreen> screens_;
   Point mouse_{720, 450};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string_view>
+
+namespace quenby {
+
+/// The physical keyboard of the simulated Mac and the keyboard privacy grants. It belongs to the
+/// world: a key held across a relaunch is still held.
+class SimulatedKeyboard {
+public:
+  /// The virtual key code of a modifier named as the script names it ("left-option", …).
+  [[nodiscard]] static std::optional<std::uint16_t> modifierKeyCode(std::string_view name);
+
+  [[nodiscard]] bool isDown(std::uint16_t keyCode) const { return held_.contains(keyCode); }
+  void setDown(std::uint16_t keyCode, bool down) {
+    if (down) {
+      held_.insert(keyCode);
+    } else {
+      held_.erase(keyCode);
+    }
+  }
+  /// The event flags of the modifiers held now: the side-independent bits and each side's
+  /// device-dependent bit, as the system sets them.
+  [[nodiscard]] std::uint64_t flags() const;
+
+  bool accessibilityGranted = true;
+  bool inputMonitoringGranted = true;
+
+private:
+  std::set<std::uint16_t> held_;
+};
+
+} // namespace quenby
