@@ -3,12 +3,21 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <CoreGraphics/CGBase.h>
 #import <Foundation/NSObject.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
 @interface NSColor : NSObject <NSCopying>
 @property(class, strong, readonly) NSColor* secondaryLabelColor;
+@property(class, strong, readonly) NSColor* whiteColor;
++ (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
++ (NSColor*)colorWithSRGBRed:(CGFloat)red
+                       green:(CGFloat)green
+                        blue:(CGFloat)blue
+                       alpha:(CGFloat)alpha;
+- (void)setFill;
+- (void)setStroke;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -11,6 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSControl : NSView
 @property(nullable, copy) NSFont* font;
+@property(nullable, weak) id target;
+@property(nullable) SEL action;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -11,6 +11,7 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSFont : NSObject <NSCopying>
 + (NSFont*)preferredFontForTextStyle:(NSFontTextStyle)style
                              options:(NSDictionary<NSFontTextStyleOptionKey, id>*)options;
++ (NSFont*)systemFontOfSize:(CGFloat)fontSize weight:(NSFontWeight)weight;
 + (NSFont*)monospacedSystemFontOfSize:(CGFloat)fontSize weight:(NSFontWeight)weight;
 @property(readonly) CGFloat pointSize;
 @end

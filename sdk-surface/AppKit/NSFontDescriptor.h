@@ -11,6 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 typedef CGFloat NSFontWeight;
 APPKIT_EXTERN const NSFontWeight NSFontWeightRegular;
+APPKIT_EXTERN const NSFontWeight NSFontWeightMedium;
+APPKIT_EXTERN const NSFontWeight NSFontWeightSemibold;
 
 typedef NSString* NSFontTextStyle;
 APPKIT_EXTERN const NSFontTextStyle NSFontTextStyleHeadline;

@@ -3,9 +3,19 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <Foundation/NSString.h>
 
 NS_ENUM(NSUInteger, NSBackingStoreType){
     NSBackingStoreRetained = 0,
     NSBackingStoreNonretained = 1,
     NSBackingStoreBuffered = 2,
+};
+
+typedef NSString* NSColorSpaceName;
+APPKIT_EXTERN NSColorSpaceName const NSDeviceRGBColorSpace;
+
+NS_ENUM(NSUInteger, NSCompositingOperation){
+    NSCompositingOperationClear = 0,
+    NSCompositingOperationCopy = 1,
+    NSCompositingOperationSourceOver = 2,
 };

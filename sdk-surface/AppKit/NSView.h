@@ -3,9 +3,11 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <AppKit/NSAccessibility.h>
 #import <AppKit/NSResponder.h>
 #import <Foundation/NSGeometry.h>
 
+@class NSAppearance;
 @class NSEvent;
 
 NS_ASSUME_NONNULL_BEGIN
@@ -17,6 +19,23 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly, getter=isFlipped) BOOL flipped;
 @property BOOL needsDisplay;
 - (BOOL)acceptsFirstMouse:(nullable NSEvent*)event;
+@property NSRect frame;
+@property NSRect bounds;
+- (void)addSubview:(NSView*)view;
+@property BOOL needsLayout;
+// Overridden to place subviews; call super first.
+- (void)layout;
+- (void)drawRect:(NSRect)dirtyRect;
+@property CGFloat alphaValue;
+// macOS 10.14.
+@property(nullable, strong) NSAppearance* appearance;
+@property(readonly, strong) NSAppearance* effectiveAppearance;
+- (void)viewDidChangeEffectiveAppearance;
+// The proxy whose property changes animate inside an animation context.
+- (instancetype)animator;
+@end
+
+@interface NSView (NSAccessibility) <NSAccessibility>
 @end
 
 NS_ASSUME_NONNULL_END

@@ -4,6 +4,7 @@
 
 #import <CoreFoundation/CoreFoundation.h>
 #import <Foundation/NSArray.h>
+#import <Foundation/NSAttributedString.h>
 #import <Foundation/NSBundle.h>
 #import <Foundation/NSCalendar.h>
 #import <Foundation/NSData.h>

@@ -28,6 +28,15 @@ static inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat w, CGFloat h) {
   return r;
 }
 
+static inline NSSize NSMakeSize(CGFloat w, CGFloat h) {
+  NSSize s;
+  s.width = w;
+  s.height = h;
+  return s;
+}
+
+FOUNDATION_EXPORT const NSRect NSZeroRect;
+
 static inline NSEdgeInsets NSEdgeInsetsMake(CGFloat top, CGFloat left, CGFloat bottom,
                                             CGFloat right) {
   NSEdgeInsets e;

@@ -15,6 +15,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 - (nullable instancetype)initWithBytes:(const void*)bytes
                                 length:(NSUInteger)len
                               encoding:(NSStringEncoding)encoding;
+- (BOOL)isEqualToString:(NSString*)aString;
 @end
 
 NS_ASSUME_NONNULL_END

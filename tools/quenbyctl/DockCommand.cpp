@@ -1,18 +1,9 @@
 #include "quenbyctl/DockCommand.hpp"
 
-#include "base/DistributedNotificationObserving.hpp"
-#include "base/ManualScheduler.hpp"
-#include "base/PosixFileSystem.hpp"
-#include "base/libplist/LibplistPropertyListDecoder.hpp"
-#include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
-#include "shortcuts/catalog/DirectoryScanningApplicationLocator.hpp"
-#include "shortcuts/catalog/WorkspaceApplicationResolver.hpp"
-#include "shortcuts/dock/DockNumberMappingProvider.hpp"
-#include "shortcuts/dock/PropertyListFileDockPreferences.hpp"
+#include "quenbyctl/DiskMappingResolver.hpp"
 #include "simulation/DockPositionJSON.hpp"
 
 #include <filesystem>
-#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -128,37 +119,13 @@ int runDockCommand(const std::vector<std::string>& arguments, std::ostream& out,
   }
   const DockOptions& options = std::get<DockOptions>(parsed);
 
-  PosixFileSystem fileSystem;
-  LibplistPropertyListDecoder decoder;
-  PropertyListFileDockPreferences preferences(fileSystem, decoder, options.plist, options.root);
-  if (!preferences.synchronize()) {
-    err << "quenbyctl dock: " << preferences.lastFailure().value_or(options.plist) << '\n';
+  DiskMappingResolver disk(options.root);
+  if (const auto failure = disk.loadDock(options.plist)) {
+    err << "quenbyctl dock: " << *failure << '\n';
     return 1;
   }
-
-  BundleApplicationMetadataReader metadataReader(fileSystem, decoder);
-  std::unique_ptr<InstalledApplicationLocating> locator;
-  if (options.root) {
-    locator = std::make_unique<DirectoryScanningApplicationLocator>(fileSystem, metadataReader,
-                                                                    *options.root);
-  } else {
-    locator = std::make_unique<InertInstalledApplicationLocator>();
-  }
-  WorkspaceApplicationResolver resolver(*locator, metadataReader, fileSystem);
-
-  auto reader = preferences.makeReader();
-  ManualScheduler scheduler;
-  InertDistributedNotificationCenter notificationCenter;
-  EnglishLocalizer localizer;
-  DockNumberMappingProvider provider(reader, resolver, scheduler, notificationCenter, nullptr,
-                                     localizer);
-  // The resolver answers from its catalog, which only learns of an application once asked
-  // about it: ask, verify what was asked about, then ask again.
-  provider.reload(true);
-  resolver.refreshCatalog(nullptr);
-  provider.reload(true);
-
-  const auto& entries = provider.current().entries;
+  const auto snapshot = disk.resolve({});
+  const auto& entries = snapshot.numberEntries;
   if (options.json) {
     const auto display = [&options](const FileURL& url) { return displayPath(url, options.root); };
     const nlohmann::ordered_json document{{"positions", dockPositionsJSON(entries, display)}};

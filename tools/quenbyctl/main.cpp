@@ -1,4 +1,5 @@
 #include "quenbyctl/DockCommand.hpp"
+#include "quenbyctl/HUDCommand.hpp"
 #include "quenbyctl/SimulateCommand.hpp"
 
 #include <iostream>
@@ -12,7 +13,10 @@ constexpr const char* kUsage =
     "\n"
     "  simulate [--narrate] SCRIPT         run a scenario against a simulated Mac\n"
     "  dock --plist FILE [--root DIR] [--json]\n"
-    "                                      show the nine Dock positions as Quenby derives them\n";
+    "                                      show the nine Dock positions as Quenby derives them\n"
+    "  hud --svg FILE [--theme light|dark|system] [--size small|standard|large]\n"
+    "      [--plist DOCK] [--root DIR] [--letters JSON]\n"
+    "                                      draw the keyboard HUD as an SVG picture\n";
 
 } // namespace
 
@@ -29,6 +33,9 @@ int main(int argc, char** argv) {
   }
   if (words.front() == "dock") {
     return quenby::runDockCommand(arguments, std::cout, std::cerr);
+  }
+  if (words.front() == "hud") {
+    return quenby::runHUDCommand(arguments, std::cout, std::cerr);
   }
   std::cerr << "quenbyctl: unknown command \"" << words.front() << "\"\n\n" << kUsage;
   return 2;

@@ -1,0 +1,10 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <Foundation/NSAttributedString.h>
+
+APPKIT_EXTERN NSAttributedStringKey const NSFontAttributeName;
+APPKIT_EXTERN NSAttributedStringKey const NSParagraphStyleAttributeName;
+APPKIT_EXTERN NSAttributedStringKey const NSForegroundColorAttributeName;

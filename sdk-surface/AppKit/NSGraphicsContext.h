@@ -1,0 +1,11 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <Foundation/NSObject.h>
+
+@interface NSGraphicsContext : NSObject
++ (void)saveGraphicsState;
++ (void)restoreGraphicsState;
+@end

@@ -1,0 +1,50 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <AppKit/NSFontDescriptor.h>
+#import <AppKit/NSGraphics.h>
+#import <Foundation/NSArray.h>
+#import <Foundation/NSDictionary.h>
+#import <Foundation/NSGeometry.h>
+#import <Foundation/NSString.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSColor;
+@class NSImageRep;
+
+typedef NSString* NSImageHintKey;
+
+NS_ENUM(NSUInteger, NSImageScaling){
+    NSImageScaleProportionallyDown = 0,
+    NSImageScaleAxesIndependently = 1,
+    NSImageScaleNone = 2,
+    NSImageScaleProportionallyUpOrDown = 3,
+};
+
+// macOS 11.
+@interface NSImageSymbolConfiguration : NSObject <NSCopying>
++ (instancetype)configurationWithPointSize:(CGFloat)pointSize weight:(NSFontWeight)weight;
+// macOS 12: one colour per layer of the symbol, in the symbol's layer order.
++ (instancetype)configurationWithPaletteColors:(NSArray<NSColor*>*)paletteColors;
+@end
+
+@interface NSImage : NSObject <NSCopying>
+- (instancetype)initWithSize:(NSSize)size;
+// macOS 11: nil when no symbol has that name.
++ (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
+                          accessibilityDescription:(nullable NSString*)description;
+- (nullable NSImage*)imageWithSymbolConfiguration:(NSImageSymbolConfiguration*)configuration;
+@property NSSize size;
+- (void)addRepresentation:(NSImageRep*)imageRep;
+- (void)drawInRect:(NSRect)dstSpacePortionRect
+          fromRect:(NSRect)srcSpacePortionRect
+         operation:(NSCompositingOperation)op
+          fraction:(CGFloat)requestedAlpha
+    respectFlipped:(BOOL)respectContextIsFlipped
+             hints:(nullable NSDictionary<NSImageHintKey, id>*)hints;
+@end
+
+NS_ASSUME_NONNULL_END
