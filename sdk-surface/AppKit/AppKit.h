@@ -4,12 +4,17 @@
 
 #import <AppKit/AppKitDefines.h>
 #import <AppKit/NSApplication.h>
+#import <AppKit/NSBitmapImageRep.h>
 #import <AppKit/NSColor.h>
+#import <AppKit/NSColorSpace.h>
 #import <AppKit/NSControl.h>
 #import <AppKit/NSEvent.h>
 #import <AppKit/NSFont.h>
 #import <AppKit/NSFontDescriptor.h>
 #import <AppKit/NSGraphics.h>
+#import <AppKit/NSGraphicsContext.h>
+#import <AppKit/NSImage.h>
+#import <AppKit/NSImageRep.h>
 #import <AppKit/NSLayoutConstraint.h>
 #import <AppKit/NSMenu.h>
 #import <AppKit/NSMenuItem.h>

@@ -9,3 +9,9 @@ NS_ENUM(NSUInteger, NSBackingStoreType){
     NSBackingStoreNonretained = 1,
     NSBackingStoreBuffered = 2,
 };
+
+@class NSString;
+
+typedef NSString* NSColorSpaceName;
+// Device-dependent RGB: the display's own colours, uncalibrated.
+APPKIT_EXTERN NSColorSpaceName const NSDeviceRGBColorSpace;
