@@ -12,6 +12,7 @@
 #import <AppKit/NSBitmapImageRep.h>
 #import <AppKit/NSButton.h>
 #import <AppKit/NSColor.h>
+#import <AppKit/NSColorSpace.h>
 #import <AppKit/NSControl.h>
 #import <AppKit/NSEvent.h>
 #import <AppKit/NSFont.h>

@@ -3,6 +3,7 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <AppKit/NSColorSpace.h>
 #import <AppKit/NSGraphics.h>
 #import <AppKit/NSImageRep.h>
 #import <Foundation/NSData.h>
@@ -16,8 +17,8 @@ typedef NS_OPTIONS(NSUInteger, NSBitmapFormat) {
 };
 
 @interface NSBitmapImageRep : NSImageRep
-// With `planes` NULL the representation allocates its own buffer, reachable through
-// `bitmapData`.
+// With NULL planes the representation allocates (and owns) its own pixels; a bytesPerRow or
+// bitsPerPixel of 0 lets it choose.
 - (nullable instancetype)initWithBitmapDataPlanes:(unsigned char* _Nullable* _Nullable)planes
                                        pixelsWide:(NSInteger)width
                                        pixelsHigh:(NSInteger)height
@@ -29,8 +30,22 @@ typedef NS_OPTIONS(NSUInteger, NSBitmapFormat) {
                                      bitmapFormat:(NSBitmapFormat)bitmapFormat
                                       bytesPerRow:(NSInteger)rBytes
                                      bitsPerPixel:(NSInteger)pBits;
+// The same without a format: premultiplied, alpha last.
+- (nullable instancetype)initWithBitmapDataPlanes:(unsigned char* _Nullable* _Nullable)planes
+                                       pixelsWide:(NSInteger)width
+                                       pixelsHigh:(NSInteger)height
+                                    bitsPerSample:(NSInteger)bps
+                                  samplesPerPixel:(NSInteger)spp
+                                         hasAlpha:(BOOL)alpha
+                                         isPlanar:(BOOL)isPlanar
+                                   colorSpaceName:(NSColorSpaceName)colorSpaceName
+                                      bytesPerRow:(NSInteger)rBytes
+                                     bitsPerPixel:(NSInteger)pBits;
 + (nullable instancetype)imageRepWithData:(NSData*)data;
 @property(nullable, readonly) unsigned char* bitmapData NS_RETURNS_INNER_POINTER;
+@property(readonly) NSInteger bytesPerRow;
+// The same pixels reinterpreted in `newSpace` (no conversion); nil for an incompatible space.
+- (nullable NSBitmapImageRep*)bitmapImageRepByRetaggingWithColorSpace:(NSColorSpace*)newSpace;
 @end
 
 NS_ASSUME_NONNULL_END

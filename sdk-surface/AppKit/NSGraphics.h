@@ -11,7 +11,10 @@ NS_ENUM(NSUInteger, NSBackingStoreType){
     NSBackingStoreBuffered = 2,
 };
 
+@class NSString;
+
 typedef NSString* NSColorSpaceName;
+// Device-dependent RGB: the display's own colours, uncalibrated.
 APPKIT_EXTERN NSColorSpaceName const NSDeviceRGBColorSpace;
 
 NS_ENUM(NSUInteger, NSCompositingOperation){

@@ -5,7 +5,23 @@
 #import <AppKit/AppKitDefines.h>
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSBitmapImageRep;
+
+NS_ENUM(NSUInteger, NSImageInterpolation){
+    NSImageInterpolationDefault = 0, NSImageInterpolationNone = 1, NSImageInterpolationLow = 2,
+    NSImageInterpolationMedium = 4,  NSImageInterpolationHigh = 3,
+};
+
 @interface NSGraphicsContext : NSObject
+// Only single-plane bitmaps can be drawn into.
++ (nullable NSGraphicsContext*)graphicsContextWithBitmapImageRep:(NSBitmapImageRep*)bitmapRep;
+// Per thread.
+@property(class, nullable, strong) NSGraphicsContext* currentContext;
 + (void)saveGraphicsState;
 + (void)restoreGraphicsState;
+@property NSImageInterpolation imageInterpolation;
 @end
+
+NS_ASSUME_NONNULL_END

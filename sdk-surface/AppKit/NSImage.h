@@ -31,8 +31,16 @@ NS_ENUM(NSUInteger, NSImageScaling){
 + (instancetype)configurationWithPaletteColors:(NSArray<NSColor*>*)paletteColors;
 @end
 
+@class NSGraphicsContext;
+
 @interface NSImage : NSObject <NSCopying>
 - (instancetype)initWithSize:(NSSize)size;
+- (nullable instancetype)initWithContentsOfFile:(NSString*)fileName;
+// The representation best suited to drawing into `rect` of `referenceContext` (the current
+// context when nil).
+- (nullable NSImageRep*)bestRepresentationForRect:(NSRect)rect
+                                          context:(nullable NSGraphicsContext*)referenceContext
+                                            hints:(nullable NSDictionary<NSImageHintKey, id>*)hints;
 // macOS 11: nil when no symbol has that name.
 + (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
                           accessibilityDescription:(nullable NSString*)description;

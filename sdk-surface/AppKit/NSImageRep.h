@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKitDefines.h>
 #import <Foundation/NSGeometry.h>
+#import <Foundation/NSObject.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -11,6 +12,8 @@ NS_ASSUME_NONNULL_BEGIN
 @property NSSize size;
 @property NSInteger pixelsWide;
 @property NSInteger pixelsHigh;
+// Draws the whole representation scaled into `rect` of the current graphics context.
+- (BOOL)drawInRect:(NSRect)rect;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -12,6 +12,8 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSRunningApplication : NSObject
 // Nil for an application that has no Info.plist identifier.
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
+// YES once the application has quit; the workspace may still list it briefly.
+@property(readonly, getter=isTerminated) BOOL terminated;
 // NO when the application refused (a full-screen application does).
 - (BOOL)hide;
 @end

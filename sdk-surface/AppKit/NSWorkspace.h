@@ -10,7 +10,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSError, NSString, NSURL;
+@class NSError, NSImage, NSString, NSURL;
 
 // macOS 10.15.
 @interface NSWorkspaceOpenConfiguration : NSObject <NSCopying>
@@ -26,6 +26,10 @@ NS_ASSUME_NONNULL_BEGIN
 // Workspace notifications are posted here only, never on the default centre.
 @property(readonly, strong) NSNotificationCenter* notificationCenter;
 @property(nullable, readonly, strong) NSRunningApplication* frontmostApplication;
+// Updated on the main thread as applications launch and quit.
+@property(readonly, copy) NSArray<NSRunningApplication*>* runningApplications;
+// The icon Finder shows for the file or bundle at `fullPath`; a generic one when it has none.
+- (NSImage*)iconForFile:(NSString*)fullPath;
 // macOS 10.15. The handler runs once, on a concurrent queue, never the main one.
 - (void)openApplicationAtURL:(NSURL*)applicationURL
                configuration:(NSWorkspaceOpenConfiguration*)configuration

@@ -9,7 +9,7 @@ namespace quenby {
 /// thread; only the macOS layer turns it into an image.
 struct PreparedApplicationIcon {
   enum class Encoding : std::uint8_t {
-    /// 8-bit RGBA, alpha premultiplied, rows top to bottom, `bytesPerRow` apart.
+    /// 8-bit RGBA in sRGB, alpha premultiplied, rows top to bottom, `bytesPerRow` apart.
     rgba8Premultiplied,
     /// A PNG file as found in an icon file; `bytesPerRow` is 0.
     png,
