@@ -3,6 +3,7 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <AppKit/NSAppearance.h>
 #import <AppKit/NSApplication.h>
 #import <AppKit/NSColor.h>
 #import <AppKit/NSControl.h>

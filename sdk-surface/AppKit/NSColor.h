@@ -9,6 +9,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSColor : NSObject <NSCopying>
 @property(class, strong, readonly) NSColor* secondaryLabelColor;
+@property(class, strong, readonly) NSColor* clearColor;
+@property(class, strong, readonly) NSColor* windowBackgroundColor;
 @end
 
 NS_ASSUME_NONNULL_END

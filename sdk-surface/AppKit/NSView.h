@@ -6,9 +6,14 @@
 #import <AppKit/NSResponder.h>
 #import <Foundation/NSGeometry.h>
 
-@class NSEvent;
+@class CALayer, NSEvent;
 
 NS_ASSUME_NONNULL_BEGIN
+
+typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
+  NSViewWidthSizable = 2,
+  NSViewHeightSizable = 16,
+};
 
 @interface NSView : NSResponder
 // The smallest size that satisfies the view's constraints (from constraint-based layout).
@@ -17,6 +22,15 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly, getter=isFlipped) BOOL flipped;
 @property BOOL needsDisplay;
 - (BOOL)acceptsFirstMouse:(nullable NSEvent*)event;
+@property NSRect frame;
+@property(readonly) NSRect bounds;
+@property NSAutoresizingMaskOptions autoresizingMask;
+@property BOOL wantsLayer;
+@property(nullable, strong) CALayer* layer;
+@property BOOL needsLayout;
+- (void)layoutSubtreeIfNeeded;
+// `view` nil: from the window's base coordinates.
+- (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
 @end
 
 NS_ASSUME_NONNULL_END

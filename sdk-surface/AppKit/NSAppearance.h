@@ -1,0 +1,26 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <Foundation/NSObject.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSString;
+
+typedef NSString* NSAppearanceName;
+
+APPKIT_EXTERN NSAppearanceName const NSAppearanceNameAqua;
+APPKIT_EXTERN NSAppearanceName const NSAppearanceNameDarkAqua;
+
+@interface NSAppearance : NSObject
++ (nullable NSAppearance*)appearanceNamed:(NSAppearanceName)name;
+@end
+
+// Windows and views: `appearance` nil follows the enclosing one, up to the system's.
+@protocol NSAppearanceCustomization <NSObject>
+@property(nullable, strong) NSAppearance* appearance;
+@end
+
+NS_ASSUME_NONNULL_END
