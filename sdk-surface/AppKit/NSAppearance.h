@@ -20,4 +20,9 @@ APPKIT_EXTERN NSAppearanceName const NSAppearanceNameDarkAqua; // macOS 10.14
     (NSArray<NSAppearanceName>*)appearances;
 @end
 
+// Windows and views: `appearance` nil follows the enclosing one, up to the system's.
+@protocol NSAppearanceCustomization <NSObject>
+@property(nullable, strong) NSAppearance* appearance;
+@end
+
 NS_ASSUME_NONNULL_END

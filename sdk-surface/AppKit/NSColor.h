@@ -18,6 +18,8 @@ NS_ASSUME_NONNULL_BEGIN
                        alpha:(CGFloat)alpha;
 - (void)setFill;
 - (void)setStroke;
+@property(class, strong, readonly) NSColor* clearColor;
+@property(class, strong, readonly) NSColor* windowBackgroundColor;
 @end
 
 NS_ASSUME_NONNULL_END

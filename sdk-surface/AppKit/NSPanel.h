@@ -5,4 +5,6 @@
 #import <AppKit/NSWindow.h>
 
 @interface NSPanel : NSWindow
+// The panel becomes key only when a view in it needs keyboard input.
+@property BOOL becomesKeyOnlyIfNeeded;
 @end

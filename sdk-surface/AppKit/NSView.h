@@ -7,10 +7,14 @@
 #import <AppKit/NSResponder.h>
 #import <Foundation/NSGeometry.h>
 
-@class NSAppearance;
-@class NSEvent;
+@class CALayer, NSAppearance, NSEvent;
 
 NS_ASSUME_NONNULL_BEGIN
+
+typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
+  NSViewWidthSizable = 2,
+  NSViewHeightSizable = 16,
+};
 
 @interface NSView : NSResponder
 // The smallest size that satisfies the view's constraints (from constraint-based layout).
@@ -22,6 +26,12 @@ NS_ASSUME_NONNULL_BEGIN
 @property NSRect frame;
 @property NSRect bounds;
 - (void)addSubview:(NSView*)view;
+@property NSAutoresizingMaskOptions autoresizingMask;
+@property BOOL wantsLayer;
+@property(nullable, strong) CALayer* layer;
+- (void)layoutSubtreeIfNeeded;
+// `view` nil: from the window's base coordinates.
+- (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
 @property BOOL needsLayout;
 // Overridden to place subviews; call super first.
 - (void)layout;

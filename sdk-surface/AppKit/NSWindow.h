@@ -3,13 +3,14 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <AppKit/NSAppearance.h>
 #import <AppKit/NSGraphics.h>
 #import <AppKit/NSResponder.h>
 #import <Foundation/NSGeometry.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSString, NSView;
+@class NSColor, NSEvent, NSString, NSView;
 
 typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskTitled = 1 << 0,
@@ -23,7 +24,11 @@ typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
 
 typedef NSInteger NSWindowLevel;
 
-@interface NSWindow : NSResponder
+typedef NS_ENUM(NSInteger, NSWindowAnimationBehavior) {
+  NSWindowAnimationBehaviorNone = 2,
+};
+
+@interface NSWindow : NSResponder <NSAppearanceCustomization>
 - (instancetype)initWithContentRect:(NSRect)contentRect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backingStoreType
@@ -40,6 +45,27 @@ typedef NSInteger NSWindowLevel;
 // Orders the window front even when its application is not active.
 - (void)orderFrontRegardless;
 - (void)close;
+- (void)orderOut:(nullable id)sender;
+@property(readonly, getter=isVisible) BOOL visible;
+// In screen coordinates.
+@property(readonly) NSRect frame;
+- (void)setFrameOrigin:(NSPoint)point;
+@property CGFloat alphaValue;
+@property(getter=isOpaque) BOOL opaque;
+@property(null_resettable, copy) NSColor* backgroundColor;
+@property BOOL ignoresMouseEvents;
+@property BOOL acceptsMouseMovedEvents;
+@property BOOL hasShadow;
+@property(getter=isMovable) BOOL movable;
+@property(getter=isExcludedFromWindowsMenu) BOOL excludedFromWindowsMenu;
+@property NSWindowAnimationBehavior animationBehavior;
+@property(readonly) BOOL canBecomeKeyWindow;
+@property(readonly) BOOL canBecomeMainWindow;
+// Every event for the window passes through here on its way to the views.
+- (void)sendEvent:(NSEvent*)event;
+- (void)display;
+- (void)displayIfNeeded;
+- (NSPoint)convertPointToScreen:(NSPoint)point;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -2,4 +2,6 @@
 // documentation. Not Apple's header: only what the .mm files use.
 #pragma once
 
+#import <QuartzCore/CALayer.h>
 #import <QuartzCore/CAMediaTimingFunction.h>
+#import <QuartzCore/CATransaction.h>

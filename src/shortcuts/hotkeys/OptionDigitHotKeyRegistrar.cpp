@@ -1,25 +1,9 @@
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
 
-#include "base/StringFormatter.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrationRequest.hpp"
 #include "shortcuts/mapping/NumberMappingEntries.hpp"
 
 namespace quenby {
-namespace {
-
-const char* unavailableSuffix(NumberMappingProblem::Kind kind) {
-  switch (kind) {
-  case NumberMappingProblem::Kind::invalidDockEntry:
-    return "invalid-entry";
-  case NumberMappingProblem::Kind::preferencesUnavailable:
-    return "preferences-unavailable";
-  case NumberMappingProblem::Kind::emptyDockPosition:
-    break;
-  }
-  return "empty-position";
-}
-
-} // namespace
 
 OptionDigitHotKeyRegistrar::OptionDigitHotKeyRegistrar(Collaborators collaborators)
     : collaborators_(std::move(collaborators)),
@@ -96,17 +80,8 @@ void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
 }
 
 void OptionDigitHotKeyRegistrar::reportUnavailable(int digit, const NumberMappingProblem& problem) {
-  const auto& localizer = collaborators_.localizer;
-  const std::string explanation = problem.kind() == NumberMappingProblem::Kind::emptyDockPosition
-                                      ? formatLocalized(localizer.localized(kEmptyDockPositionText),
-                                                        {static_cast<long long>(digit)})
-                                      : problem.message();
-  collaborators_.configurationReporter.report({
-      .id = "switch.configuration.dock." + std::to_string(digit) + "." +
-            unavailableSuffix(problem.kind()),
-      .title = localizer.localized(kDockShortcutReadOnlyTitle),
-      .message = formatLocalized(localizer.localized(kDockShortcutReadOnlyMessage), {explanation}),
-  });
+  collaborators_.configurationReporter.report(
+      unavailableDockPositionFailure(digit, problem, collaborators_.localizer));
 }
 
 } // namespace quenby

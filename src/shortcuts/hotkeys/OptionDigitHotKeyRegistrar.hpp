@@ -6,6 +6,7 @@
 #include "data/AppPreferencesProviding.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyBackend.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyError.hpp"
+#include "shortcuts/hotkeys/UnavailableDockPositionFailure.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
 #include "shortcuts/switching/AppHiding.hpp"
 #include "shortcuts/switching/AppSwitchCommandSubmitting.hpp"
@@ -20,18 +21,6 @@
 #include <string>
 
 namespace quenby {
-
-inline constexpr LocalizedText kDockShortcutReadOnlyTitle{
-    "diagnostic.hotkeys.dock-read-only", "Dock Shortcut Is Read-Only",
-    "Dock is the macOS Dock and is not translated."};
-inline constexpr LocalizedText kDockShortcutReadOnlyMessage{
-    "diagnostic.hotkeys.dock-read-only.message",
-    "%@ Number shortcuts follow Dock order and cannot be edited in Quenby.",
-    "%@ is a complete localized explanation. Dock and Quenby are not translated."};
-inline constexpr LocalizedText kEmptyDockPositionText{
-    "diagnostic.hotkeys.empty-dock-position",
-    "Dock position %lld does not contain a pinned application.",
-    "%lld is a Dock position, 1–9. Dock is the macOS Dock."};
 
 /// Registers the nine modifier-digit hot keys and turns each press into a switch to the
 /// application at that Dock position, a hide of it, or an explanation of why there is none.

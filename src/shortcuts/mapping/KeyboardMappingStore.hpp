@@ -9,6 +9,7 @@
 #include "shortcuts/catalog/ApplicationResolving.hpp"
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
+#include "shortcuts/mapping/KeyboardMappingSnapshotProviding.hpp"
 #include "shortcuts/mapping/KeyboardMappingStoreError.hpp"
 #include "shortcuts/mapping/LetterMappingRecord.hpp"
 #include "shortcuts/mapping/NumberMappingProviding.hpp"
@@ -38,10 +39,8 @@ namespace quenby {
 /// being published (an observer assigning a letter, a Dock or catalog change delivered from an
 /// observer) is applied and published after it. Main thread only; every collaborator must
 /// outlive the store.
-class KeyboardMappingStore {
+class KeyboardMappingStore final : public KeyboardMappingSnapshotProviding {
 public:
-  using SnapshotHandler = std::function<void(const KeyboardMappingSnapshot&)>;
-
   /// Loads the stored mappings at once. `catalogMonitor` may be null.
   KeyboardMappingStore(NumberMappingProviding& numberProvider, KeyValueStore& defaults,
                        const WallClock& clock, ApplicationResolving& resolver,
@@ -51,9 +50,9 @@ public:
                        const Localizer& localizer);
   KeyboardMappingStore(const KeyboardMappingStore&) = delete;
   KeyboardMappingStore& operator=(const KeyboardMappingStore&) = delete;
-  ~KeyboardMappingStore();
+  ~KeyboardMappingStore() override;
 
-  [[nodiscard]] const KeyboardMappingSnapshot& snapshot() const { return cachedSnapshot_; }
+  [[nodiscard]] const KeyboardMappingSnapshot& snapshot() const override { return cachedSnapshot_; }
   /// The repaired records, in letter order, as last stored.
   [[nodiscard]] std::vector<LetterMappingRecord> records() const;
 
@@ -66,7 +65,7 @@ public:
   Expected<bool, KeyboardMappingStoreError> removeLetterMapping(std::string_view letter);
 
   /// `handler` receives every new snapshot until the token ends.
-  [[nodiscard]] ObservationToken observe(SnapshotHandler handler);
+  [[nodiscard]] ObservationToken observe(SnapshotHandler handler) override;
 
   /// Follows the Dock's digit mappings and the catalog's changes. Does nothing while
   /// monitoring.
