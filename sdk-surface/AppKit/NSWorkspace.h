@@ -26,6 +26,8 @@ NS_ASSUME_NONNULL_BEGIN
 // Workspace notifications are posted here only, never on the default centre.
 @property(readonly, strong) NSNotificationCenter* notificationCenter;
 @property(nullable, readonly, strong) NSRunningApplication* frontmostApplication;
+// Opens the URL with the application registered for its scheme; NO when none would.
+- (BOOL)openURL:(NSURL*)url;
 // macOS 10.15. The handler runs once, on a concurrent queue, never the main one.
 - (void)openApplicationAtURL:(NSURL*)applicationURL
                configuration:(NSWorkspaceOpenConfiguration*)configuration
