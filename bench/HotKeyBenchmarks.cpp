@@ -1,44 +1,17 @@
 // A digit press must decide what to do (look the position up, check the mapping, decide between
 // hiding and switching) without allocating and at the cost of a few map look-ups.
-// BM_HashLookupBaseline is one hash-map find, the yardstick the press is measured against;
-// `allocations` counts the heap allocations per iteration through the counting operator new
-// below, which every benchmark in this binary passes through.
+// BM_HashLookupBaseline is one hash-map find, the yardstick the press (and the HUD tap's modifier
+// change) is measured against; `allocations` counts the heap allocations per iteration.
 
+#include "AllocationCounting.hpp"
 #include "app/ConfigurationFailureReporting.hpp"
 #include "base/InMemoryKeyValueStore.hpp"
 #include "data/AppPreferencesStore.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
 
 #include <benchmark/benchmark.h>
-#include <cstdlib>
-#include <new>
 #include <string>
 #include <unordered_map>
-
-namespace {
-
-// The one mutable global of the program: a replaced operator new cannot reach anything else.
-// Benchmarks run on one thread.
-std::size_t allocationCount = 0; // NOLINT
-
-// Out of line, so that the compiler does not pair an inlined free with the operator new above
-// and warn about a mismatch that replacing both sides makes correct.
-[[gnu::noinline]] void release(void* memory) noexcept { std::free(memory); }
-
-} // namespace
-
-void* operator new(std::size_t size) {
-  ++allocationCount;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) {
-    return memory;
-  }
-  throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { release(memory); }
-void operator delete[](void* memory) noexcept { release(memory); }
-void operator delete(void* memory, std::size_t) noexcept { release(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
 
 namespace quenby {
 namespace {
@@ -56,11 +29,6 @@ AppMapping mappingAt(int position) {
 struct SilentReporter final : ConfigurationFailureReporting {
   void report(const ConfigurationFailure&) override {}
 };
-
-void reportAllocations(benchmark::State& state, std::size_t before) {
-  state.counters["allocations"] = benchmark::Counter(static_cast<double>(allocationCount - before),
-                                                     benchmark::Counter::kAvgIterations);
-}
 
 void BM_HotKeyPressDecision(benchmark::State& state) {
   KeyboardMappingSnapshot snapshot;
@@ -90,7 +58,7 @@ void BM_HotKeyPressDecision(benchmark::State& state) {
   for (int warmUp = 1; warmUp <= 9; ++warmUp) {
     registrar.handleHotKey(warmUp);
   }
-  const std::size_t before = allocationCount;
+  const std::size_t before = allocationsSoFar();
   for (auto _ : state) {
     digit = digit % 9 + 1;
     registrar.handleHotKey(digit);
@@ -105,7 +73,7 @@ void BM_HashLookupBaseline(benchmark::State& state) {
     mappings.emplace(position, mappingAt(position));
   }
   int digit = 0;
-  const std::size_t before = allocationCount;
+  const std::size_t before = allocationsSoFar();
   for (auto _ : state) {
     digit = digit % 9 + 1;
     auto found = mappings.find(digit);

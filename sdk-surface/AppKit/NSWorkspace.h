@@ -30,6 +30,8 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly, copy) NSArray<NSRunningApplication*>* runningApplications;
 // The icon Finder shows for the file or bundle at `fullPath`; a generic one when it has none.
 - (NSImage*)iconForFile:(NSString*)fullPath;
+// Opens the URL with the application registered for its scheme; NO when none would.
+- (BOOL)openURL:(NSURL*)url;
 // macOS 10.15. The handler runs once, on a concurrent queue, never the main one.
 - (void)openApplicationAtURL:(NSURL*)applicationURL
                configuration:(NSWorkspaceOpenConfiguration*)configuration

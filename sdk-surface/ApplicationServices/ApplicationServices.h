@@ -2,6 +2,7 @@
 // documentation. Not Apple's header: only what the .mm files use.
 #pragma once
 
+#include <ApplicationServices/AXUIElement.h>
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreGraphics/CoreGraphics.h>
 #include <CoreServices/CoreServices.h>

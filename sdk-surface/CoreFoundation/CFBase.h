@@ -40,6 +40,8 @@ CF_EXPORT const CFAllocatorRef _Nullable kCFAllocatorDefault;
 CFTypeID CFGetTypeID(CFTypeRef cf);
 // Equality as the two objects' type defines it: element by element for collections.
 Boolean CFEqual(CFTypeRef cf1, CFTypeRef cf2);
+// Ends one reference obtained from a Create or Copy function.
+void CFRelease(CFTypeRef cf);
 
 CF_EXTERN_C_END
 #pragma clang assume_nonnull end

@@ -4,4 +4,7 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreGraphics/CGBase.h>
+#include <CoreGraphics/CGEvent.h>
+#include <CoreGraphics/CGEventSource.h>
+#include <CoreGraphics/CGEventTypes.h>
 #include <CoreGraphics/CGGeometry.h>

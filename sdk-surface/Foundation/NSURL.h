@@ -10,6 +10,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSURL : NSObject <NSCopying>
 + (NSURL*)fileURLWithPath:(NSString*)path isDirectory:(BOOL)isDirectory;
+// nil for a text that is not a well-formed URL.
++ (nullable instancetype)URLWithString:(NSString*)URLString;
 @property(readonly, getter=isFileURL) BOOL fileURL;
 @property(nullable, readonly, copy) NSString* path;
 @end

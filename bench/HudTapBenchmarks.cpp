@@ -1,0 +1,101 @@
+// A modifier change runs inside the session's keyboard tap, for every Shift, Command or Option
+// the user presses anywhere: it must allocate nothing and cost little next to a hash look-up
+// (BM_HashLookupBaseline). One iteration is one flags-changed event of left Option, alternately
+// down and up, a second apart, delivered through the tap's installed callback into the gesture
+// recogniser. BM_TapModifierChange runs with the double-tap gesture alone, so no long-press check
+// is ever scheduled; BM_TapModifierChangeWithLongPressCheck runs with both gestures, so each press
+// schedules the check and each release cancels it.
+//
+// The check is scheduled on a stand-in for the main queue that keeps the one pending task in
+// place, so that what is counted is the tap's and the recogniser's own work; on a Mac, queuing
+// the check is the dispatch queue's business.
+
+#include "AllocationCounting.hpp"
+#include "base/InMemoryKeyValueStore.hpp"
+#include "data/AppPreferencesStore.hpp"
+#include "hud/tap/GlobalKeyboardEventTap.hpp"
+#include "support/ScriptedKeyboardEventTapSystem.hpp"
+#include "support/ScriptedModifierKeyState.hpp"
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace quenby {
+namespace {
+
+class SingleSlotScheduler final : public MainScheduler, public MonotonicClock {
+public:
+  [[nodiscard]] ObservationToken post(Task) override { return {}; }
+  [[nodiscard]] ObservationToken scheduleAfter(Duration, Task task) override {
+    slot_ = std::move(task);
+    const auto generation = ++generation_;
+    return ObservationToken([this, generation] {
+      if (generation == generation_) {
+        slot_ = nullptr;
+      }
+    });
+  }
+  [[nodiscard]] ObservationToken scheduleRepeating(Duration, Task) override { return {}; }
+  [[nodiscard]] Duration now() const override { return now_; }
+
+  void advance(Duration delta) { now_ += delta; }
+
+private:
+  Task slot_;
+  std::uint64_t generation_ = 0;
+  Duration now_{};
+};
+
+void runModifierChanges(benchmark::State& state, HUDActivationGesturePreference gesture) {
+  constexpr std::uint16_t kLeftOption = 58;
+  SingleSlotScheduler scheduler;
+  ScriptedModifierKeyState keys;
+  InMemoryKeyValueStore defaults;
+  AppPreferencesStore preferences(defaults, [](const std::string&) {});
+  preferences.setHUDActivationGesture(gesture);
+  ScriptedKeyboardEventTapSystem system;
+  InertKeyboardHUDPresenter presenter;
+  InertHUDPresentationMeasurer metrics;
+  ForwardingKeyDownRouter router;
+  NullLogger logger;
+  GlobalKeyboardEventTap tap({.dependencies = system.dependencies(),
+                              .preferences = preferences,
+                              .keyStateReader = keys,
+                              .scheduler = scheduler,
+                              .clock = scheduler,
+                              .metrics = metrics,
+                              .router = router,
+                              .logger = logger});
+  tap.attach(&presenter);
+  if (tap.start()) {
+    state.SkipWithError("the scripted tap did not start");
+    return;
+  }
+  const auto change = [&] {
+    keys.held.flip(kLeftOption);
+    scheduler.advance(std::chrono::seconds(1));
+    return system.flagsChanged(kLeftOption);
+  };
+  for (int warmUp = 0; warmUp < 4; ++warmUp) {
+    change();
+  }
+  const std::size_t before = allocationsSoFar();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(change());
+  }
+  reportAllocations(state, before);
+}
+void BM_TapModifierChange(benchmark::State& state) {
+  runModifierChanges(state, HUDActivationGesturePreference::doubleTap);
+}
+BENCHMARK(BM_TapModifierChange);
+
+void BM_TapModifierChangeWithLongPressCheck(benchmark::State& state) {
+  runModifierChanges(state, HUDActivationGesturePreference::both);
+}
+BENCHMARK(BM_TapModifierChangeWithLongPressCheck);
+
+} // namespace
+} // namespace quenby
