@@ -10,6 +10,8 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
       shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(), data_.usage(),
                  data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
+      hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_,
+           shell_.configurationReporter()),
       lifecycle_(makeLifecycle()) {}
 
 // Which feature each of the coordinator's steps reaches; the coordinator alone decides their
@@ -19,10 +21,18 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.setAccessoryActivationPolicy = [this] { shell_.becomeAccessory(); };
   lifecycle.startDock = [this] { shortcuts_.startDock(); };
   lifecycle.initialSnapshot = [this] { return shortcuts_.mappingSnapshot(); };
+  lifecycle.preloadIcons = [this](const KeyboardMappingSnapshot& snapshot) {
+    shortcuts_.preloadIcons(snapshot);
+  };
   lifecycle.startCatalogMonitoring = [this] { shortcuts_.startCatalogMonitoring(); };
+  lifecycle.startRunningApplications = [this] { shortcuts_.startRunningApplications(); };
   lifecycle.startOptionDigits = [this] { shortcuts_.startOptionDigits(); };
+  lifecycle.restoreHUD = [this] { hud_.restoreHUD(); };
+  lifecycle.hideHUD = [this] { hud_.hideHUD(); };
+  lifecycle.stopEventTap = [this] { hud_.stopEventTap(); };
   lifecycle.stopOptionDigits = [this] { shortcuts_.stopOptionDigits(); };
   lifecycle.stopSwitchCommands = [this] { shortcuts_.stopSwitchCommands(); };
+  lifecycle.stopRunningApplications = [this] { shortcuts_.stopRunningApplications(); };
   lifecycle.stopCatalogMonitoring = [this] { shortcuts_.stopCatalogMonitoring(); };
   lifecycle.stopMappings = [this] { shortcuts_.stopMappings(); };
   lifecycle.stopDock = [this] { shortcuts_.stopDock(); };

@@ -6,6 +6,7 @@
 #include "app/PlatformServices.hpp"
 #include "data/DataAssembly.hpp"
 #include "data/usage/UsageAnalyticsRecording.hpp"
+#include "hud/HudAssembly.hpp"
 #include "shortcuts/ShortcutsAssembly.hpp"
 
 namespace quenby {
@@ -25,6 +26,7 @@ public:
   [[nodiscard]] AppShellAssembly& shell() { return shell_; }
   [[nodiscard]] ShortcutsAssembly& shortcuts() { return shortcuts_; }
   [[nodiscard]] DataAssembly& data() { return data_; }
+  [[nodiscard]] HudAssembly& hud() { return hud_; }
 
 private:
   AppCoordinatorLifecycle makeLifecycle();
@@ -34,6 +36,8 @@ private:
   // Before the shortcuts: switching counts into the usage analytics and reads the preferences.
   DataAssembly data_;
   ShortcutsAssembly shortcuts_;
+  // After the shortcuts: the HUD shows their mappings and switches through them.
+  HudAssembly hud_;
   AppCoordinatorLifecycle lifecycle_;
 };
 

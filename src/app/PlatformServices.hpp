@@ -3,6 +3,7 @@
 #include "app/AppShellPlatform.hpp"
 #include "base/BasePlatform.hpp"
 #include "data/DataPlatform.hpp"
+#include "hud/HudPlatform.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 
 namespace quenby {
@@ -15,13 +16,15 @@ struct PlatformServices {
   AppShellPlatform app;
   ShortcutsPlatform shortcuts;
   DataPlatform data;
+  HudPlatform hud;
 
   /// Harmless adapters throughout.
   [[nodiscard]] static PlatformServices inert() {
     return {.base = BasePlatform::inert(),
             .app = AppShellPlatform::inert(),
             .shortcuts = ShortcutsPlatform::inert(),
-            .data = DataPlatform::inert()};
+            .data = DataPlatform::inert(),
+            .hud = HudPlatform::inert()};
   }
 };
 

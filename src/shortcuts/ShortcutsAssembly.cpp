@@ -57,6 +57,8 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
                              .frontmostApplications = *frontmostApplication_,
                              .appHider = appHider_,
                              .localizer = *base.localizer}),
-      optionDigits_(optionDigitRegistrar_, preferences, *platform.symbolicHotKeys) {}
+      optionDigits_(optionDigitRegistrar_, preferences, *platform.symbolicHotKeys),
+      runningApplications_(*platform.runningApplications, *base.scheduler),
+      iconCache_(platform.iconLoader, *platform.iconWorkScheduler) {}
 
 } // namespace quenby

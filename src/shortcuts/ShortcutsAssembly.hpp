@@ -14,6 +14,8 @@
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshot.hpp"
 #include "shortcuts/mapping/KeyboardMappingStore.hpp"
+#include "shortcuts/running/ApplicationIconCache.hpp"
+#include "shortcuts/running/WorkspaceRunningApplicationMonitor.hpp"
 #include "shortcuts/switching/AppSwitchCommandQueue.hpp"
 #include "shortcuts/switching/AppSwitchFailureHandler.hpp"
 #include "shortcuts/switching/WorkspaceAppHider.hpp"
@@ -59,6 +61,14 @@ public:
   /// Registers the modifier-digit hot keys and follows the modifier preference.
   void startOptionDigits() { optionDigits_.start(); }
   void stopOptionDigits() { optionDigits_.stop(); }
+  /// Starts loading the icons of `snapshot`'s applications and follows every later snapshot.
+  void preloadIcons(const KeyboardMappingSnapshot& snapshot) {
+    iconCache_.preload(snapshot);
+    iconUpdates_ = letterStore_.observe(
+        [this](const KeyboardMappingSnapshot& next) { iconCache_.update(next); });
+  }
+  void startRunningApplications() { runningApplications_.start(); }
+  void stopRunningApplications() { runningApplications_.stop(); }
   /// The mappings as they stand: the Dock's positions and the letters.
   [[nodiscard]] const KeyboardMappingSnapshot& mappingSnapshot() const {
     return letterStore_.snapshot();
@@ -71,6 +81,10 @@ public:
   [[nodiscard]] KeyboardMappingStore& letterStore() { return letterStore_; }
   [[nodiscard]] const OptionDigitHotKeyFeatureController& optionDigits() const {
     return optionDigits_;
+  }
+  [[nodiscard]] ApplicationIconCache& icons() { return iconCache_; }
+  [[nodiscard]] WorkspaceRunningApplicationMonitor& runningApplications() {
+    return runningApplications_;
   }
   [[nodiscard]] AppSwitchCommandQueue& switchCommands() { return switchCommands_; }
   [[nodiscard]] AppSwitchFailureHandling& switchFailureHandler() { return failureHandler_; }
@@ -93,6 +107,9 @@ private:
   std::shared_ptr<FrontmostApplicationProviding> frontmostApplication_;
   OptionDigitHotKeyRegistrar optionDigitRegistrar_;
   OptionDigitHotKeyFeatureController optionDigits_;
+  WorkspaceRunningApplicationMonitor runningApplications_;
+  ApplicationIconCache iconCache_;
+  ObservationToken iconUpdates_;
 };
 
 } // namespace quenby

@@ -6,6 +6,9 @@
 #include "shortcuts/dock/DockPreferenceReading.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyBackend.hpp"
 #include "shortcuts/hotkeys/SystemSymbolicHotKeyReading.hpp"
+#include "shortcuts/running/ApplicationIconLoading.hpp"
+#include "shortcuts/running/ApplicationIconWorkScheduling.hpp"
+#include "shortcuts/running/RunningApplicationListing.hpp"
 #include "shortcuts/switching/ApplicationOpening.hpp"
 #include "shortcuts/switching/ApplicationPresenceChecking.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
@@ -17,8 +20,9 @@ namespace quenby {
 
 /// What the shortcuts need from the platform: the Dock's preferences, the ways of finding
 /// installed applications and hearing that they changed, and the workspace's opening, hiding and
-/// front application. The switching adapters default to their inert twins, so a platform that
-/// does not fill them still builds a harmless graph.
+/// front application, the running applications and the icons. The adapters from switching on
+/// default to their inert twins, so a platform that does not fill them still builds a harmless
+/// graph.
 struct ShortcutsPlatform {
   std::shared_ptr<DockPreferenceReading> dockPreferenceReader;
   std::shared_ptr<InstalledApplicationLocating> applicationLocator;
@@ -37,6 +41,12 @@ struct ShortcutsPlatform {
       std::make_shared<InertOptionDigitHotKeyBackend>();
   std::shared_ptr<SystemSymbolicHotKeyReading> symbolicHotKeys =
       std::make_shared<InertSystemSymbolicHotKeyReader>();
+  std::shared_ptr<RunningApplicationListing> runningApplications =
+      std::make_shared<InertRunningApplicationLister>();
+  std::shared_ptr<const ApplicationIconLoading> iconLoader =
+      std::make_shared<InertApplicationIconLoader>();
+  std::shared_ptr<ApplicationIconWorkScheduling> iconWorkScheduler =
+      std::make_shared<InertApplicationIconWorkScheduler>();
 
   /// An empty Dock, no applications, no notifications, nothing in front; opening succeeds
   /// without opening anything.

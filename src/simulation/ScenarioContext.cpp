@@ -22,6 +22,9 @@ void ScenarioContext::launch() {
       [this, environment]() -> std::unique_ptr<AppCoordinating> {
         SimulatedProcess process = makeSimulatedProcess(world_, recorder_);
         hotKeys_ = process.hotKeys;
+        eventTap_ = process.eventTap;
+        hudPanels_ = process.hudPanels;
+        mouse_ = process.mouse;
         auto coordinator = makeAppCoordinator(std::move(process.services), environment, &runtime_);
         coordinator_ = coordinator.get();
         return coordinator;
@@ -46,6 +49,9 @@ void ScenarioContext::terminate() {
   }
   application_.reset();
   hotKeys_.reset();
+  eventTap_.reset();
+  hudPanels_.reset();
+  mouse_.reset();
   coordinator_ = nullptr;
   hasTerminated_ = true;
   recorder_.emit("terminated");

@@ -2,7 +2,10 @@
 
 #include "base/FileURL.hpp"
 #include "simulation/ScenarioEventRecorder.hpp"
+#include "simulation/SimulatedHUDPanel.hpp"
 #include "simulation/SimulatedHotKeyBackend.hpp"
+#include "simulation/SimulatedKeyboardEventTap.hpp"
+#include "simulation/SimulatedMouseMonitors.hpp"
 #include "simulation/SimulatedWorld.hpp"
 
 #include <memory>
@@ -41,6 +44,14 @@ public:
   /// The running process's hot keys, or a line error saying that `line` needs a launched
   /// application.
   [[nodiscard]] SimulatedHotKeyBackend& requireHotKeys(std::string_view line) const;
+  /// The running process's keyboard tap as the system sees it; null when no process runs.
+  [[nodiscard]] SimulatedKeyboardEventTap* eventTap() const { return eventTap_.get(); }
+  /// The running process's HUD panel; null when no process runs or it has none.
+  [[nodiscard]] SimulatedHUDPanel* hudPanel() const {
+    return hudPanels_ ? hudPanels_->panel() : nullptr;
+  }
+  /// The running process's mouse monitors; null when no process runs.
+  [[nodiscard]] SimulatedMouseMonitors* mouse() const { return mouse_.get(); }
   /// The running graph, or a line error saying that `line` needs a launched application.
   [[nodiscard]] std::shared_ptr<AppRuntime> requireRuntime(std::string_view line) const;
 
@@ -57,6 +68,9 @@ private:
   AppCoordinator* coordinator_ = nullptr;
   std::weak_ptr<AppRuntime> runtime_;
   std::shared_ptr<SimulatedHotKeyBackend> hotKeys_;
+  std::shared_ptr<SimulatedKeyboardEventTap> eventTap_;
+  std::shared_ptr<SimulatedHUDPanelFactory> hudPanels_;
+  std::shared_ptr<SimulatedMouseMonitors> mouse_;
   bool hasTerminated_ = false;
 };
 

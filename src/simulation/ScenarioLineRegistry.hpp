@@ -41,5 +41,6 @@ void registerAppShellScenarioLines(ScenarioLineRegistry& registry);
 void registerDataScenarioLines(ScenarioLineRegistry& registry);
 void registerShortcutsScenarioLines(ScenarioLineRegistry& registry);
 void registerSwitchingScenarioLines(ScenarioLineRegistry& registry);
+void registerHudScenarioLines(ScenarioLineRegistry& registry);
 
 } // namespace quenby

@@ -10,10 +10,8 @@ namespace quenby {
 namespace {
 
 /// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{
-    "permission", "layout", "reduce-motion", "modifier",           "modifier-lost",
-    "key",        "press",  "tap-disable",   "tap-reenable-fails", "click",
-    "drag",       "menu",   "alert",         "secure-input",       "tap-deaf"};
+constexpr std::array kLaterFeatureLines{"layout", "reduce-motion", "menu",
+                                        "alert",  "secure-input",  "tap-deaf"};
 
 } // namespace
 
@@ -24,6 +22,7 @@ ScenarioRunner::ScenarioRunner(ScenarioEventSink& sink, std::string scriptDirect
   registerShortcutsScenarioLines(lines_);
   registerSwitchingScenarioLines(lines_);
   registerDataScenarioLines(lines_);
+  registerHudScenarioLines(lines_);
 }
 
 ScenarioRunner::~ScenarioRunner() = default;

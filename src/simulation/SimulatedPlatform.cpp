@@ -1,9 +1,12 @@
 #include "simulation/SimulatedPlatform.hpp"
 
 #include "shortcuts/dock/SystemDockPreferenceReader.hpp"
+#include "shortcuts/running/IcnsApplicationIconLoader.hpp"
+#include "shortcuts/running/MainThreadApplicationIconWorkScheduler.hpp"
 #include "simulation/RecordingKeyValueStore.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
 #include "simulation/SimulatedLogger.hpp"
+#include "simulation/SimulatedModifierKeyStateReader.hpp"
 #include "simulation/SimulatedWindowPlacementSnapshotProvider.hpp"
 #include "simulation/SimulatedWorkspaceAdapters.hpp"
 
@@ -45,6 +48,39 @@ ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world, const ScenarioEventR
           [workspace] { return workspace->frontmostHidableApplication(); },
       .hotKeyBackend = hotKeys,
       .symbolicHotKeys = hotKeys,
+      .runningApplications = workspace,
+      .iconLoader =
+          std::make_shared<IcnsApplicationIconLoader>(world.fileSystem(), world.decoder()),
+      .iconWorkScheduler =
+          std::make_shared<MainThreadApplicationIconWorkScheduler>(*world.scheduler()),
+  };
+}
+
+HudPlatform simulatedHud(SimulatedWorld& world, const ScenarioEventRecorder& recorder,
+                         SimulatedKeyboardEventTap& eventTap, SimulatedMouseMonitors& mouse,
+                         std::shared_ptr<SimulatedHUDPanelFactory> panels) {
+  SimulatedKeyboard& keyboard = world.keyboard();
+  return {
+      .eventTap = eventTap.dependencies(),
+      .permission = {
+          .accessibilityTrusted = [&keyboard] { return keyboard.accessibilityGranted; },
+          .inputMonitoringGranted = [&keyboard] { return keyboard.inputMonitoringGranted; },
+          .requestAccessibility =
+              [&recorder] {
+                recorder.emit("prompt", {{"permission", "accessibility"}});
+              },
+          .requestInputMonitoring =
+              [&recorder] {
+                recorder.emit("prompt", {{"permission", "inputMonitoring"}});
+              },
+          .openSettingsURL =
+              [&recorder](const std::string& url) {
+                recorder.emit("open-url", {{"url", url}});
+              },
+      },
+      .keyStateReader = std::make_shared<SimulatedModifierKeyStateReader>(keyboard),
+      .panelFactory = std::move(panels),
+      .outsideClicks = mouse.dependencies(),
   };
 }
 
@@ -53,6 +89,9 @@ ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world, const ScenarioEventR
 SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
                                       const ScenarioEventRecorder& recorder) {
   auto hotKeys = std::make_shared<SimulatedHotKeyBackend>(world, recorder);
+  auto eventTap = std::make_shared<SimulatedKeyboardEventTap>(world.keyboard(), recorder);
+  auto mouse = std::make_shared<SimulatedMouseMonitors>();
+  auto panels = std::make_shared<SimulatedHUDPanelFactory>(recorder, *world.scheduler());
   return {
       .services =
           {
@@ -64,8 +103,12 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
               .data = {.windowPlacementSnapshotProvider =
                            std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
                        .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
+              .hud = simulatedHud(world, recorder, *eventTap, *mouse, panels),
           },
       .hotKeys = hotKeys,
+      .eventTap = eventTap,
+      .hudPanels = panels,
+      .mouse = mouse,
   };
 }
 

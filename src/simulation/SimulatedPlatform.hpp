@@ -2,15 +2,22 @@
 
 #include "app/PlatformServices.hpp"
 #include "simulation/ScenarioEventRecorder.hpp"
+#include "simulation/SimulatedHUDPanel.hpp"
 #include "simulation/SimulatedHotKeyBackend.hpp"
+#include "simulation/SimulatedKeyboardEventTap.hpp"
+#include "simulation/SimulatedMouseMonitors.hpp"
 #include "simulation/SimulatedWorld.hpp"
 
 namespace quenby {
 
-/// One simulated process: its adapters, and the hot keys the script presses through.
+/// One simulated process: its adapters, and the system pieces the script acts through: the hot
+/// keys, the keyboard tap, the HUD's panel and the mouse monitors.
 struct SimulatedProcess {
   PlatformServices services;
   std::shared_ptr<SimulatedHotKeyBackend> hotKeys;
+  std::shared_ptr<SimulatedKeyboardEventTap> eventTap;
+  std::shared_ptr<SimulatedHUDPanelFactory> hudPanels;
+  std::shared_ptr<SimulatedMouseMonitors> mouse;
 };
 
 /// The adapters of one simulated process, over the world that outlives it. `world` and

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/MonotonicClock.hpp"
+#include "base/ObserverList.hpp"
 
 #include <optional>
 #include <set>
@@ -20,6 +21,20 @@ struct SimulatedWorkspace {
   std::set<std::string> failingOpens;
   /// How long the workspace takes to report an open's outcome.
   Duration openLatency{0};
+  /// Told after each launch or termination, as the workspace's notifications are.
+  ObserverList<> launchesAndTerminations;
+
+  void launched(const std::string& bundleIdentifier) {
+    running.insert(bundleIdentifier);
+    launchesAndTerminations.notify();
+  }
+  void terminated(const std::string& bundleIdentifier) {
+    running.erase(bundleIdentifier);
+    if (frontmost == bundleIdentifier) {
+      frontmost.reset();
+    }
+    launchesAndTerminations.notify();
+  }
 };
 
 } // namespace quenby

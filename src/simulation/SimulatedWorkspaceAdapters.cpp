@@ -54,8 +54,8 @@ void SimulatedWorkspaceAdapters::finishOpening(const FileURL& url, const Complet
   } else if (!applicationExists(url) || !identifier) {
     error = "The application cannot be found.";
   } else {
-    workspace.running.insert(*identifier);
     workspace.frontmost = *identifier;
+    workspace.launched(*identifier);
   }
   recorder_.emit("opened", {{"path", path}, {"ok", !error.has_value()}});
   completion(std::move(error));
@@ -72,6 +72,15 @@ std::unique_ptr<HidableApplication> SimulatedWorkspaceAdapters::frontmostHidable
     return nullptr;
   }
   return std::make_unique<SimulatedHidableApplication>(world_.workspace(), recorder_, *frontmost);
+}
+
+std::vector<RunningApplicationProcessSnapshot>
+SimulatedWorkspaceAdapters::runningApplications() const {
+  std::vector<RunningApplicationProcessSnapshot> processes;
+  for (const auto& bundleIdentifier : world_.workspace().running) {
+    processes.push_back({.bundleIdentifier = bundleIdentifier, .isTerminated = false});
+  }
+  return processes;
 }
 
 } // namespace quenby

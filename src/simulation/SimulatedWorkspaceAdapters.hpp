@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ObservationToken.hpp"
+#include "shortcuts/running/RunningApplicationListing.hpp"
 #include "shortcuts/switching/ApplicationOpening.hpp"
 #include "shortcuts/switching/ApplicationPresenceChecking.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
@@ -18,7 +19,8 @@ namespace quenby {
 /// `recorder` must outlive it. An open still pending when the process ends never completes.
 class SimulatedWorkspaceAdapters final : public ApplicationOpening,
                                          public ApplicationPresenceChecking,
-                                         public FrontmostApplicationProviding {
+                                         public FrontmostApplicationProviding,
+                                         public RunningApplicationListing {
 public:
   SimulatedWorkspaceAdapters(SimulatedWorld& world, const ScenarioEventRecorder& recorder)
       : world_(world), recorder_(recorder) {}
@@ -27,6 +29,11 @@ public:
   [[nodiscard]] bool applicationExists(const FileURL& url) const override;
   [[nodiscard]] std::optional<std::string> frontmostBundleIdentifier() const override {
     return world_.workspace().frontmost;
+  }
+  [[nodiscard]] std::vector<RunningApplicationProcessSnapshot> runningApplications() const override;
+  [[nodiscard]] ObservationToken
+  observeLaunchesAndTerminations(std::function<void()> handler) override {
+    return world_.workspace().launchesAndTerminations.add(std::move(handler));
   }
   /// The application in front, which hides unless it is full screen.
   [[nodiscard]] std::unique_ptr<HidableApplication> frontmostHidableApplication();

@@ -142,8 +142,8 @@ void registerSwitchingScenarioLines(ScenarioLineRegistry& registry) {
       workspace.frontmost.reset();
       return;
     }
-    workspace.running.insert(arguments[1]);
     workspace.frontmost = arguments[1];
+    workspace.launched(arguments[1]);
   });
   registry.addLine("fullscreen", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 2, 2, "fullscreen BUNDLE_ID");
@@ -151,15 +151,11 @@ void registerSwitchingScenarioLines(ScenarioLineRegistry& registry) {
   });
   registry.addLine("running", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 2, 2, "running BUNDLE_ID");
-    context.world().workspace().running.insert(arguments[1]);
+    context.world().workspace().launched(arguments[1]);
   });
   registry.addLine("terminated", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 2, 2, "terminated BUNDLE_ID");
-    SimulatedWorkspace& workspace = context.world().workspace();
-    workspace.running.erase(arguments[1]);
-    if (workspace.frontmost == arguments[1]) {
-      workspace.frontmost.reset();
-    }
+    context.world().workspace().terminated(arguments[1]);
   });
   registry.addStateFields(writeState);
 }

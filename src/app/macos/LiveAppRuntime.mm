@@ -8,21 +8,26 @@
 #include "base/macos/LiveBasePlatform.hpp"
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
 #include "data/usage/macos/SystemUsageCalendar.hpp"
+#include "hud/macos/LiveHudPlatform.hpp"
 #include "shortcuts/macos/LiveShortcutsPlatform.hpp"
 
 #include <memory>
+#include <utility>
 
 namespace quenby {
 
 PlatformServices makeLivePlatformServices() {
+  BasePlatform base = makeLiveBasePlatform();
+  ShortcutsPlatform shortcuts = makeLiveShortcutsPlatform(base);
   return {
-      .base = makeLiveBasePlatform(),
+      .base = std::move(base),
       .app = {.activationPolicy = std::make_shared<AccessoryActivationPolicy>(),
               .failurePanelFactory = std::make_shared<SystemConfigurationFailurePanelFactory>()},
-      .shortcuts = makeLiveShortcutsPlatform(),
+      .shortcuts = std::move(shortcuts),
       .data = {.windowPlacementSnapshotProvider =
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),
                .calendar = std::make_shared<SystemUsageCalendar>()},
+      .hud = makeLiveHudPlatform(),
   };
 }
 

@@ -1,7 +1,7 @@
 // Builds the shortcuts' system adapters. Main thread only; each adapter is shared with the
 // runtime graph and lives as long as it does. The Spotlight query starts only when the catalog
 // monitor starts it; the workspace is asked for its front application at each hide, never
-// cached.
+// cached. Icons load on a private serial queue and arrive on the main queue.
 
 #include "shortcuts/macos/LiveShortcutsPlatform.hpp"
 
@@ -12,6 +12,7 @@
 #include "shortcuts/dock/macos/SystemDockPreferences.hpp"
 #include "shortcuts/hotkeys/macos/CarbonOptionDigitHotKeyBackend.hpp"
 #include "shortcuts/hotkeys/macos/SystemSymbolicHotKeyReader.hpp"
+#include "shortcuts/running/macos/LiveRunningApplicationAdapters.hpp"
 #include "shortcuts/switching/macos/FileManagerApplicationPresenceChecker.hpp"
 #include "shortcuts/switching/macos/RunningApplicationHideTarget.hpp"
 #include "shortcuts/switching/macos/WorkspaceApplicationOpener.hpp"
@@ -21,7 +22,7 @@
 
 namespace quenby {
 
-ShortcutsPlatform makeLiveShortcutsPlatform() {
+ShortcutsPlatform makeLiveShortcutsPlatform(const BasePlatform& base) {
   SystemDockPreferences dock = makeSystemDockPreferences();
   return {
       .dockPreferenceReader = std::make_shared<SystemDockPreferenceReader>(
@@ -35,6 +36,9 @@ ShortcutsPlatform makeLiveShortcutsPlatform() {
       .frontmostHidableApplication = [] { return RunningApplicationHideTarget::frontmost(); },
       .hotKeyBackend = std::make_shared<CarbonOptionDigitHotKeyBackend>(),
       .symbolicHotKeys = std::make_shared<SystemSymbolicHotKeyReader>(),
+      .runningApplications = makeWorkspaceRunningApplications(),
+      .iconLoader = makeWorkspaceApplicationIconLoader(base.fileSystem, base.propertyListDecoder),
+      .iconWorkScheduler = makeTaskApplicationIconWorkScheduler(),
   };
 }
 

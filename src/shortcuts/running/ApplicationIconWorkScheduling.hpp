@@ -22,4 +22,10 @@ public:
   virtual void schedule(Work work, Completion completion) = 0;
 };
 
+/// Never runs anything: no icon ever loads.
+class InertApplicationIconWorkScheduler final : public ApplicationIconWorkScheduling {
+public:
+  void schedule(Work, Completion) override {}
+};
+
 } // namespace quenby

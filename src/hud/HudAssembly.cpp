@@ -1,0 +1,50 @@
+#include "hud/HudAssembly.hpp"
+
+#include "hud/view/KeyboardHUDTexts.hpp"
+
+namespace quenby {
+
+HudAssembly::HudAssembly(const BasePlatform& base, const HudPlatform& platform,
+                         const DataPlatform& dataPlatform, DataAssembly& data,
+                         ShortcutsAssembly& shortcuts,
+                         ConfigurationFailureReporting& configurationReporter)
+    : model_(data.preferences().hudSize(), data.preferences().hudTheme(),
+             base.localizer->localized(kHUDOpenSettingsAccessibilityLabel)),
+      metrics_(
+          HUDPerformanceMetrics::nanosecondsOf(*base.clock), [](HUDPresentationPhase) {},
+          *platform.signposter),
+      controller_({.mappings = shortcuts.letterStore(),
+                   .iconProvider = shortcuts.icons(),
+                   .runningApplications = shortcuts.runningApplications(),
+                   .switchCommands = shortcuts.switchCommands(),
+                   .failureHandler = shortcuts.switchFailureHandler(),
+                   .configurationReporter = configurationReporter,
+                   .preferences = data.preferences(),
+                   .windowPlacement = *dataPlatform.windowPlacementSnapshotProvider,
+                   .model = model_,
+                   .metrics = metrics_,
+                   .panelFactory = *platform.panelFactory,
+                   .outsideClickMonitor = platform.outsideClicks,
+                   .contentAnimationScheduler = *base.scheduler,
+                   .localizer = *base.localizer}),
+      permission_(platform.permission), eventTap_({.dependencies = platform.eventTap,
+                                                   .preferences = data.preferences(),
+                                                   .keyStateReader = *platform.keyStateReader,
+                                                   .scheduler = *base.scheduler,
+                                                   .clock = *base.clock,
+                                                   .metrics = metrics_,
+                                                   .router = router_,
+                                                   .logger = *base.logger}),
+      feature_(permission_, eventTap_, UserDefaultsHUDFeaturePreferences(*base.userDefaults),
+               *base.scheduler) {
+  eventTap_.attach(&controller_);
+  eventTap_.setOnFailure(
+      [this](GlobalKeyboardEventTapFailure failure) { feature_.handleTapFailure(failure); });
+}
+
+HudAssembly::~HudAssembly() {
+  feature_.stop();
+  eventTap_.attach(nullptr);
+}
+
+} // namespace quenby

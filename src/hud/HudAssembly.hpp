@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/ConfigurationFailureReporting.hpp"
+#include "base/BasePlatform.hpp"
+#include "data/DataAssembly.hpp"
+#include "data/DataPlatform.hpp"
+#include "hud/HudPlatform.hpp"
+#include "hud/feature/HUDFeatureController.hpp"
+#include "hud/panel/HUDPerformanceMetrics.hpp"
+#include "hud/panel/KeyboardHUDController.hpp"
+#include "hud/tap/GlobalKeyboardEventTap.hpp"
+#include "hud/tap/KeyDownRouting.hpp"
+#include "hud/tap/SystemEventTapPermission.hpp"
+#include "hud/view/KeyboardHUDViewModel.hpp"
+#include "shortcuts/ShortcutsAssembly.hpp"
+
+namespace quenby {
+
+/// The keyboard HUD's feature objects: the view model and the panel that shows it, the
+/// session-wide keyboard tap that recognises the gestures, and the feature switch that decides
+/// whether that tap may run. Everything it is given must outlive it.
+class HudAssembly {
+public:
+  HudAssembly(const BasePlatform& base, const HudPlatform& platform,
+              const DataPlatform& dataPlatform, DataAssembly& data, ShortcutsAssembly& shortcuts,
+              ConfigurationFailureReporting& configurationReporter);
+  HudAssembly(const HudAssembly&) = delete;
+  HudAssembly& operator=(const HudAssembly&) = delete;
+  ~HudAssembly();
+
+  /// Starts the keyboard tap when the user enabled the HUD and macOS permits it.
+  void restoreHUD() { feature_.restore(); }
+  void hideHUD() { controller_.hide(); }
+  void stopEventTap() { feature_.stop(); }
+
+  [[nodiscard]] KeyboardHUDController& controller() { return controller_; }
+  [[nodiscard]] const KeyboardHUDViewModel& model() const { return model_; }
+  [[nodiscard]] const HUDPerformanceMetrics& metrics() const { return metrics_; }
+  [[nodiscard]] GlobalKeyboardEventTap& eventTap() { return eventTap_; }
+  [[nodiscard]] SystemEventTapPermission& permission() { return permission_; }
+  [[nodiscard]] HUDFeatureController& feature() { return feature_; }
+
+private:
+  KeyboardHUDViewModel model_;
+  HUDPerformanceMetrics metrics_;
+  KeyboardHUDController controller_;
+  // Every key passes until key routing decides otherwise.
+  ForwardingKeyDownRouter router_;
+  SystemEventTapPermission permission_;
+  GlobalKeyboardEventTap eventTap_;
+  HUDFeatureController feature_;
+};
+
+} // namespace quenby

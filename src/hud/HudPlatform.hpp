@@ -1,0 +1,32 @@
+#pragma once
+
+#include "hud/gestures/SystemModifierKeyStateReader.hpp"
+#include "hud/panel/HUDOutsideClickMonitorDependencies.hpp"
+#include "hud/panel/HUDPresentationSignposting.hpp"
+#include "hud/panel/KeyboardHUDPanelMaking.hpp"
+#include "hud/tap/SystemEventTapPermission.hpp"
+#include "hud/tap/SystemKeyboardEventTapDependencies.hpp"
+
+#include <memory>
+
+namespace quenby {
+
+/// What the keyboard HUD needs from the platform: the session-wide keyboard tap and its
+/// permissions, the physical state of the modifier keys, the panel with its mouse monitors, and
+/// the presentation signposts.
+struct HudPlatform {
+  SystemKeyboardEventTapDependencies eventTap = SystemKeyboardEventTapDependencies::inert();
+  SystemEventTapPermission::Operations permission = SystemEventTapPermission::Operations::inert();
+  std::shared_ptr<SystemModifierKeyStateReader> keyStateReader =
+      std::make_shared<InertModifierKeyStateReader>();
+  std::shared_ptr<KeyboardHUDPanelMaking> panelFactory =
+      std::make_shared<InertKeyboardHUDPanelFactory>();
+  HUDOutsideClickMonitorDependencies outsideClicks = HUDOutsideClickMonitorDependencies::inert();
+  std::shared_ptr<HUDPresentationSignposting> signposter =
+      std::make_shared<InertHUDPresentationSignposter>();
+
+  /// No tap can be created, nothing is granted, no key is held and the panel never appears.
+  [[nodiscard]] static HudPlatform inert() { return {}; }
+};
+
+} // namespace quenby

@@ -1,0 +1,29 @@
+// Builds the HUD's system adapters. Main thread only; each adapter is shared with the runtime
+// graph and lives as long as it does. Nothing here touches the system until the graph asks: the
+// tap is created when the HUD feature starts it, the panel when the controller is built.
+
+#include "hud/macos/LiveHudPlatform.hpp"
+
+#include "hud/gestures/macos/EventSourceModifierKeyStateReader.hpp"
+#include "hud/panel/macos/LiveHUDOutsideClickMonitorDependencies.hpp"
+#include "hud/panel/macos/OSHUDPresentationSignposter.hpp"
+#include "hud/panel/macos/SystemKeyboardHUDPanelFactory.hpp"
+#include "hud/tap/macos/LiveEventTapPermissionOperations.hpp"
+#include "hud/tap/macos/LiveKeyboardEventTapDependencies.hpp"
+
+#include <memory>
+
+namespace quenby {
+
+HudPlatform makeLiveHudPlatform() {
+  return {
+      .eventTap = makeLiveKeyboardEventTapDependencies(),
+      .permission = makeLiveEventTapPermissionOperations(),
+      .keyStateReader = std::make_shared<EventSourceModifierKeyStateReader>(),
+      .panelFactory = std::make_shared<SystemKeyboardHUDPanelFactory>(),
+      .outsideClicks = makeLiveHUDOutsideClickMonitorDependencies(),
+      .signposter = std::make_shared<OSHUDPresentationSignposter>(),
+  };
+}
+
+} // namespace quenby
