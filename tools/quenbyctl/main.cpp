@@ -1,8 +1,12 @@
+#include "base/PosixFileSystem.hpp"
+#include "base/libplist/LibplistPropertyListDecoder.hpp"
 #include "quenbyctl/DockCommand.hpp"
 #include "quenbyctl/HUDCommand.hpp"
 #include "quenbyctl/SimulateCommand.hpp"
+#include "shortcuts/running/IcnsApplicationIconLoader.hpp"
 
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -35,7 +39,18 @@ int main(int argc, char** argv) {
     return quenby::runDockCommand(arguments, std::cout, std::cerr);
   }
   if (words.front() == "hud") {
-    return quenby::runHUDCommand(arguments, std::cout, std::cerr);
+    // The icons the bundles carry in their icon files, as on a Mac without AppKit to draw them.
+    const auto loader = std::make_shared<quenby::IcnsApplicationIconLoader>(
+        std::make_shared<quenby::PosixFileSystem>(),
+        std::make_shared<quenby::LibplistPropertyListDecoder>());
+    return quenby::runHUDCommand(
+        arguments, std::cout, std::cerr,
+        [loader](const quenby::FileURL& bundle)
+            -> std::shared_ptr<const quenby::PreparedApplicationIcon> {
+          auto icon = loader->loadIcon(bundle);
+          return icon ? std::make_shared<const quenby::PreparedApplicationIcon>(std::move(*icon))
+                      : nullptr;
+        });
   }
   std::cerr << "quenbyctl: unknown command \"" << words.front() << "\"\n\n" << kUsage;
   return 2;
