@@ -71,6 +71,11 @@ std::string describeState(const ScenarioEvent& event) {
         .append(" by letter, ");
     sentence.append(text(usage->value("hud", nlohmann::ordered_json()))).append(" from the HUD.");
   }
+  const auto hud = event.fields.find("hud");
+  if (hud != event.fields.end() && hud->is_string()) {
+    sentence.append(kIndent).append("HUD: ").append(hud->get<std::string>());
+    sentence.append(event.fields.value("hudVisible", false) ? ", on screen." : ", hidden.");
+  }
   sentence.append(kIndent).append("Preferences:");
   std::string_view separator = " ";
   for (const auto& [name, value] : preferences->items()) {
