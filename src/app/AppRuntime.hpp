@@ -6,7 +6,7 @@
 #include "app/PlatformServices.hpp"
 #include "data/DataAssembly.hpp"
 #include "data/usage/UsageAnalyticsRecording.hpp"
-#include "hud/HudAssembly.hpp"
+#include "hud/HUDAssembly.hpp"
 #include "shortcuts/ShortcutsAssembly.hpp"
 
 namespace quenby {
@@ -26,7 +26,7 @@ public:
   [[nodiscard]] AppShellAssembly& shell() { return shell_; }
   [[nodiscard]] ShortcutsAssembly& shortcuts() { return shortcuts_; }
   [[nodiscard]] DataAssembly& data() { return data_; }
-  [[nodiscard]] HudAssembly& hud() { return hud_; }
+  [[nodiscard]] HUDAssembly& hud() { return hud_; }
 
 private:
   AppCoordinatorLifecycle makeLifecycle();
@@ -37,7 +37,7 @@ private:
   DataAssembly data_;
   ShortcutsAssembly shortcuts_;
   // After the shortcuts: the HUD shows their mappings and switches through them.
-  HudAssembly hud_;
+  HUDAssembly hud_;
   AppCoordinatorLifecycle lifecycle_;
 };
 

@@ -3,7 +3,7 @@
 #include "app/AppShellPlatform.hpp"
 #include "base/BasePlatform.hpp"
 #include "data/DataPlatform.hpp"
-#include "hud/HudPlatform.hpp"
+#include "hud/HUDPlatform.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
 
 namespace quenby {
@@ -16,7 +16,7 @@ struct PlatformServices {
   AppShellPlatform app;
   ShortcutsPlatform shortcuts;
   DataPlatform data;
-  HudPlatform hud;
+  HUDPlatform hud;
 
   /// Harmless adapters throughout.
   [[nodiscard]] static PlatformServices inert() {
@@ -24,7 +24,7 @@ struct PlatformServices {
             .app = AppShellPlatform::inert(),
             .shortcuts = ShortcutsPlatform::inert(),
             .data = DataPlatform::inert(),
-            .hud = HudPlatform::inert()};
+            .hud = HUDPlatform::inert()};
   }
 };
 

@@ -41,6 +41,6 @@ void registerAppShellScenarioLines(ScenarioLineRegistry& registry);
 void registerDataScenarioLines(ScenarioLineRegistry& registry);
 void registerShortcutsScenarioLines(ScenarioLineRegistry& registry);
 void registerSwitchingScenarioLines(ScenarioLineRegistry& registry);
-void registerHudScenarioLines(ScenarioLineRegistry& registry);
+void registerHUDScenarioLines(ScenarioLineRegistry& registry);
 
 } // namespace quenby

@@ -22,7 +22,7 @@ ScenarioRunner::ScenarioRunner(ScenarioEventSink& sink, std::string scriptDirect
   registerShortcutsScenarioLines(lines_);
   registerSwitchingScenarioLines(lines_);
   registerDataScenarioLines(lines_);
-  registerHudScenarioLines(lines_);
+  registerHUDScenarioLines(lines_);
 }
 
 ScenarioRunner::~ScenarioRunner() = default;

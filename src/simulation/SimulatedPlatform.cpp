@@ -56,7 +56,7 @@ ShortcutsPlatform simulatedShortcuts(SimulatedWorld& world, const ScenarioEventR
   };
 }
 
-HudPlatform simulatedHud(SimulatedWorld& world, const ScenarioEventRecorder& recorder,
+HUDPlatform simulatedHud(SimulatedWorld& world, const ScenarioEventRecorder& recorder,
                          SimulatedKeyboardEventTap& eventTap, SimulatedMouseMonitors& mouse,
                          std::shared_ptr<SimulatedHUDPanelFactory> panels) {
   SimulatedKeyboard& keyboard = world.keyboard();

@@ -8,7 +8,7 @@
 #include "base/macos/LiveBasePlatform.hpp"
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
 #include "data/usage/macos/SystemUsageCalendar.hpp"
-#include "hud/macos/LiveHudPlatform.hpp"
+#include "hud/macos/LiveHUDPlatform.hpp"
 #include "shortcuts/macos/LiveShortcutsPlatform.hpp"
 
 #include <memory>
@@ -27,7 +27,7 @@ PlatformServices makeLivePlatformServices() {
       .data = {.windowPlacementSnapshotProvider =
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),
                .calendar = std::make_shared<SystemUsageCalendar>()},
-      .hud = makeLiveHudPlatform(),
+      .hud = makeLiveHUDPlatform(),
   };
 }
 

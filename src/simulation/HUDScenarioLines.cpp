@@ -163,7 +163,7 @@ void writeState(const ScenarioContext&, AppRuntime* runtime, nlohmann::ordered_j
 
 } // namespace
 
-void registerHudScenarioLines(ScenarioLineRegistry& registry) {
+void registerHUDScenarioLines(ScenarioLineRegistry& registry) {
   registry.addLine("permission", permissionLine);
   registry.addLine("modifier", modifierLine);
   registry.addLine("modifier-lost", modifierLostLine);

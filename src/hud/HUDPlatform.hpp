@@ -14,7 +14,7 @@ namespace quenby {
 /// What the keyboard HUD needs from the platform: the session-wide keyboard tap and its
 /// permissions, the physical state of the modifier keys, the panel with its mouse monitors, and
 /// the presentation signposts.
-struct HudPlatform {
+struct HUDPlatform {
   SystemKeyboardEventTapDependencies eventTap = SystemKeyboardEventTapDependencies::inert();
   SystemEventTapPermission::Operations permission = SystemEventTapPermission::Operations::inert();
   std::shared_ptr<SystemModifierKeyStateReader> keyStateReader =
@@ -26,7 +26,7 @@ struct HudPlatform {
       std::make_shared<InertHUDPresentationSignposter>();
 
   /// No tap can be created, nothing is granted, no key is held and the panel never appears.
-  [[nodiscard]] static HudPlatform inert() { return {}; }
+  [[nodiscard]] static HUDPlatform inert() { return {}; }
 };
 
 } // namespace quenby

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "hud/HudPlatform.hpp"
+#include "hud/HUDPlatform.hpp"
 
 namespace quenby {
 
 /// The session's keyboard tap through CoreGraphics, its permissions through Accessibility and
 /// CoreGraphics, the modifier keys' hardware state, the non-activating AppKit panel with its
 /// mouse monitors, and os_signpost. Call on the main thread.
-[[nodiscard]] HudPlatform makeLiveHudPlatform();
+[[nodiscard]] HUDPlatform makeLiveHUDPlatform();
 
 } // namespace quenby

@@ -1,10 +1,10 @@
-#include "hud/HudAssembly.hpp"
+#include "hud/HUDAssembly.hpp"
 
 #include "hud/view/KeyboardHUDTexts.hpp"
 
 namespace quenby {
 
-HudAssembly::HudAssembly(const BasePlatform& base, const HudPlatform& platform,
+HUDAssembly::HUDAssembly(const BasePlatform& base, const HUDPlatform& platform,
                          const DataPlatform& dataPlatform, DataAssembly& data,
                          ShortcutsAssembly& shortcuts,
                          ConfigurationFailureReporting& configurationReporter)
@@ -42,7 +42,7 @@ HudAssembly::HudAssembly(const BasePlatform& base, const HudPlatform& platform,
       [this](GlobalKeyboardEventTapFailure failure) { feature_.handleTapFailure(failure); });
 }
 
-HudAssembly::~HudAssembly() {
+HUDAssembly::~HUDAssembly() {
   feature_.stop();
   eventTap_.attach(nullptr);
 }

@@ -2,7 +2,7 @@
 // graph and lives as long as it does. Nothing here touches the system until the graph asks: the
 // tap is created when the HUD feature starts it, the panel when the controller is built.
 
-#include "hud/macos/LiveHudPlatform.hpp"
+#include "hud/macos/LiveHUDPlatform.hpp"
 
 #include "hud/gestures/macos/EventSourceModifierKeyStateReader.hpp"
 #include "hud/panel/macos/LiveHUDOutsideClickMonitorDependencies.hpp"
@@ -15,7 +15,7 @@
 
 namespace quenby {
 
-HudPlatform makeLiveHudPlatform() {
+HUDPlatform makeLiveHUDPlatform() {
   return {
       .eventTap = makeLiveKeyboardEventTapDependencies(),
       .permission = makeLiveEventTapPermissionOperations(),

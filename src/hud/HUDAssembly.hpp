@@ -4,7 +4,7 @@
 #include "base/BasePlatform.hpp"
 #include "data/DataAssembly.hpp"
 #include "data/DataPlatform.hpp"
-#include "hud/HudPlatform.hpp"
+#include "hud/HUDPlatform.hpp"
 #include "hud/feature/HUDFeatureController.hpp"
 #include "hud/panel/HUDPerformanceMetrics.hpp"
 #include "hud/panel/KeyboardHUDController.hpp"
@@ -19,14 +19,14 @@ namespace quenby {
 /// The keyboard HUD's feature objects: the view model and the panel that shows it, the
 /// session-wide keyboard tap that recognises the gestures, and the feature switch that decides
 /// whether that tap may run. Everything it is given must outlive it.
-class HudAssembly {
+class HUDAssembly {
 public:
-  HudAssembly(const BasePlatform& base, const HudPlatform& platform,
+  HUDAssembly(const BasePlatform& base, const HUDPlatform& platform,
               const DataPlatform& dataPlatform, DataAssembly& data, ShortcutsAssembly& shortcuts,
               ConfigurationFailureReporting& configurationReporter);
-  HudAssembly(const HudAssembly&) = delete;
-  HudAssembly& operator=(const HudAssembly&) = delete;
-  ~HudAssembly();
+  HUDAssembly(const HUDAssembly&) = delete;
+  HUDAssembly& operator=(const HUDAssembly&) = delete;
+  ~HUDAssembly();
 
   /// Starts the keyboard tap when the user enabled the HUD and macOS permits it.
   void restoreHUD() { feature_.restore(); }
