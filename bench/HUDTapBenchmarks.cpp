@@ -4,7 +4,8 @@
 // down and up, a second apart, delivered through the tap's installed callback into the gesture
 // recogniser. BM_TapModifierChange runs with the double-tap gesture alone, so no long-press check
 // is ever scheduled; BM_TapModifierChangeWithLongPressCheck runs with both gestures, so each press
-// schedules the check and each release cancels it.
+// schedules the check and each release cancels it; BM_TapOtherModifierChange is left Shift, which
+// the recogniser passes over.
 //
 // The check is scheduled on a stand-in for the main queue that keeps the one pending task in
 // place, so that what is counted is the tap's and the recogniser's own work; on a Mac, queuing
@@ -48,8 +49,11 @@ private:
   Duration now_{};
 };
 
-void runModifierChanges(benchmark::State& state, HUDActivationGesturePreference gesture) {
-  constexpr std::uint16_t kLeftOption = 58;
+constexpr std::uint16_t kLeftOption = 58;
+constexpr std::uint16_t kLeftShift = 56;
+
+void runModifierChanges(benchmark::State& state, HUDActivationGesturePreference gesture,
+                        std::uint16_t keyCode = kLeftOption) {
   SingleSlotScheduler scheduler;
   ScriptedModifierKeyState keys;
   InMemoryKeyValueStore defaults;
@@ -74,9 +78,9 @@ void runModifierChanges(benchmark::State& state, HUDActivationGesturePreference 
     return;
   }
   const auto change = [&] {
-    keys.held.flip(kLeftOption);
+    keys.held.flip(keyCode);
     scheduler.advance(std::chrono::seconds(1));
-    return system.flagsChanged(kLeftOption);
+    return system.flagsChanged(keyCode);
   };
   for (int warmUp = 0; warmUp < 4; ++warmUp) {
     change();
@@ -96,6 +100,12 @@ void BM_TapModifierChangeWithLongPressCheck(benchmark::State& state) {
   runModifierChanges(state, HUDActivationGesturePreference::both);
 }
 BENCHMARK(BM_TapModifierChangeWithLongPressCheck);
+
+// Shift and Command while typing: the flags-changed events a session is mostly made of.
+void BM_TapOtherModifierChange(benchmark::State& state) {
+  runModifierChanges(state, HUDActivationGesturePreference::both, kLeftShift);
+}
+BENCHMARK(BM_TapOtherModifierChange);
 
 } // namespace
 } // namespace quenby

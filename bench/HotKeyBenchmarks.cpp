@@ -26,10 +26,6 @@ AppMapping mappingAt(int position) {
           .source = MappingSource::dock(position)};
 }
 
-struct SilentReporter final : ConfigurationFailureReporting {
-  void report(const ConfigurationFailure&) override {}
-};
-
 void BM_HotKeyPressDecision(benchmark::State& state) {
   KeyboardMappingSnapshot snapshot;
   for (int position = 1; position <= 9; ++position) {
@@ -38,7 +34,7 @@ void BM_HotKeyPressDecision(benchmark::State& state) {
   InertOptionDigitHotKeyBackend backend;
   InertAppSwitchCommandSubmitter submitter;
   InertAppSwitchFailureHandler failureHandler;
-  SilentReporter reporter;
+  InertConfigurationFailureReporter reporter;
   InMemoryKeyValueStore defaults;
   AppPreferencesStore preferences(defaults, [](const std::string&) {});
   InertFrontmostApplicationProvider frontmost;

@@ -22,11 +22,6 @@ public:
                                  std::chrono::hours{9}};
 };
 
-class IgnoringReporter final : public ConfigurationFailureReporting {
-public:
-  void report(const ConfigurationFailure&) override {}
-};
-
 std::string bundleIdentifier(int application) {
   return "com.example.application" + std::to_string(application);
 }
@@ -61,7 +56,7 @@ void BM_UsageRecordFullHistory(benchmark::State& state) {
   const FixedWallClock clock;
   const EnglishLocalizer localizer;
   NullLogger logger;
-  IgnoringReporter reporter;
+  InertConfigurationFailureReporter reporter;
   UsageAnalyticsStore store({defaults, calendar, clock, localizer, logger, reporter});
   const AppMapping mapping{"Application 7", bundleIdentifier(7), FileURL(),
                            ApplicationResolution::notFound(), MappingSource::dock(3)};

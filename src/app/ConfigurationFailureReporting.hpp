@@ -11,4 +11,10 @@ public:
   virtual void report(const ConfigurationFailure& failure) = 0;
 };
 
+/// Tells nobody.
+class InertConfigurationFailureReporter final : public ConfigurationFailureReporting {
+public:
+  void report(const ConfigurationFailure&) override {}
+};
+
 } // namespace quenby
