@@ -216,15 +216,7 @@ KeyboardHUDController::loadedIcons(const KeyboardMappingSnapshot& snapshot) cons
       icons.emplace(mapping.bundleIdentifier, std::move(icon));
     }
   };
-  for (int position = NumberMappingEntries::kFirstPosition;
-       position <= NumberMappingEntries::kLastPosition; ++position) {
-    if (const AppMapping* mapping = snapshot.numberEntries.at(position).mapping()) {
-      add(*mapping);
-    }
-  }
-  for (const auto& [letter, mapping] : snapshot.letterMappings) {
-    add(mapping);
-  }
+  snapshot.forEachMapping(add);
   return icons;
 }
 

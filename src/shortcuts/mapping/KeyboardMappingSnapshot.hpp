@@ -19,6 +19,19 @@ struct KeyboardMappingSnapshot {
   /// Only letters ('A'–'Z') that have a mapping; each mapping's source is that letter.
   std::map<char, AppMapping> letterMappings;
 
+  /// Calls `visit` with every mapping: the Dock's in position order, then the letters'.
+  template <typename Visitor> void forEachMapping(Visitor&& visit) const {
+    for (int position = NumberMappingEntries::kFirstPosition;
+         position <= NumberMappingEntries::kLastPosition; ++position) {
+      if (const AppMapping* mapping = numberEntries.at(position).mapping()) {
+        visit(*mapping);
+      }
+    }
+    for (const auto& [letter, mapping] : letterMappings) {
+      visit(mapping);
+    }
+  }
+
   friend bool operator==(const KeyboardMappingSnapshot&, const KeyboardMappingSnapshot&) = default;
 };
 

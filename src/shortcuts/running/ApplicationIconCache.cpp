@@ -17,15 +17,7 @@ std::vector<FileURL> resolvedURLs(const KeyboardMappingSnapshot& snapshot) {
       urls.push_back(*url);
     }
   };
-  for (int position = NumberMappingEntries::kFirstPosition;
-       position <= NumberMappingEntries::kLastPosition; ++position) {
-    if (const AppMapping* mapping = snapshot.numberEntries.at(position).mapping()) {
-      add(*mapping);
-    }
-  }
-  for (const auto& [letter, mapping] : snapshot.letterMappings) {
-    add(mapping);
-  }
+  snapshot.forEachMapping(add);
   return urls;
 }
 
