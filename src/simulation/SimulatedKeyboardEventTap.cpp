@@ -3,9 +3,10 @@
 namespace quenby {
 
 SystemKeyboardEventTapDependencies SimulatedKeyboardEventTap::dependencies() {
+  const auto self = shared_from_this();
   return {
       .createTap =
-          [this](const EventTapCreation& creation) {
+          [this, self](const EventTapCreation& creation) {
             if (!keyboard_.accessibilityGranted) {
               return EventTapPort{};
             }
@@ -13,18 +14,18 @@ SystemKeyboardEventTapDependencies SimulatedKeyboardEventTap::dependencies() {
             userInfo_ = creation.userInfo;
             return EventTapPort{&port_};
           },
-      .createRunLoopSource = [this](EventTapPort) { return EventTapRunLoopSource{&source_}; },
-      .mainRunLoop = [this] { return EventTapRunLoop{&runLoop_}; },
+      .createRunLoopSource = [this, self](EventTapPort) { return EventTapRunLoopSource{&source_}; },
+      .mainRunLoop = [this, self] { return EventTapRunLoop{&runLoop_}; },
       .addRunLoopSource = [](EventTapRunLoop, EventTapRunLoopSource, EventTapRunLoopMode) {},
       .removeRunLoopSource = [](EventTapRunLoop, EventTapRunLoopSource, EventTapRunLoopMode) {},
       .enableTap =
-          [this](EventTapPort, bool enable) {
+          [this, self](EventTapPort, bool enable) {
             enabled_ = enable && !nextReenableFails_;
             nextReenableFails_ = false;
           },
-      .isTapEnabled = [this](EventTapPort) { return enabled_; },
+      .isTapEnabled = [this, self](EventTapPort) { return enabled_; },
       .invalidateTap =
-          [this](EventTapPort) {
+          [this, self](EventTapPort) {
             callback_ = nullptr;
             userInfo_ = nullptr;
             enabled_ = false;

@@ -4,13 +4,15 @@
 #include "simulation/ScenarioEventRecorder.hpp"
 #include "simulation/SimulatedKeyboard.hpp"
 
+#include <memory>
+
 namespace quenby {
 
 /// The system's side of one process's keyboard tap: creation needs the Accessibility grant, as
 /// an active tap does on a Mac; every key event the script makes is delivered to the installed
 /// callback while the tap is enabled and recorded as a `key` line with its verdict; the script
 /// can switch the tap off and make the next re-enable fail.
-class SimulatedKeyboardEventTap {
+class SimulatedKeyboardEventTap : public std::enable_shared_from_this<SimulatedKeyboardEventTap> {
 public:
   SimulatedKeyboardEventTap(const SimulatedKeyboard& keyboard,
                             const ScenarioEventRecorder& recorder)
@@ -18,7 +20,8 @@ public:
   SimulatedKeyboardEventTap(const SimulatedKeyboardEventTap&) = delete;
   SimulatedKeyboardEventTap& operator=(const SimulatedKeyboardEventTap&) = delete;
 
-  /// The eight operations over this object, which must outlive them.
+  /// The eight operations over this object; they share its ownership, so it lives as long as
+  /// the tap that uses them. Call only on an object owned by a shared pointer.
   [[nodiscard]] SystemKeyboardEventTapDependencies dependencies();
 
   /// A key event with the flags of the modifiers held now; recorded with what became of it when

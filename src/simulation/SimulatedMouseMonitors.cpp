@@ -14,21 +14,24 @@ bool masks(std::uint64_t mask, std::uint64_t type) { return ((mask >> type) & 1U
 } // namespace
 
 HUDOutsideClickMonitorDependencies SimulatedMouseMonitors::dependencies() {
+  const auto self = shared_from_this();
   return {
       .addLocalMonitor =
-          [this](std::uint64_t mask, HUDOutsideClickMonitorDependencies::LocalHandler handler) {
+          [this, self](std::uint64_t mask,
+                       HUDOutsideClickMonitorDependencies::LocalHandler handler) {
             auto token = std::make_shared<char>();
             localMonitors_.emplace(token.get(), Monitor{mask, std::move(handler)});
             return HUDEventMonitorToken(token);
           },
       .addGlobalMonitor =
-          [this](std::uint64_t mask, HUDOutsideClickMonitorDependencies::GlobalHandler handler) {
+          [this, self](std::uint64_t mask,
+                       HUDOutsideClickMonitorDependencies::GlobalHandler handler) {
             auto token = std::make_shared<char>();
             globalMonitors_.emplace(token.get(), Monitor{mask, std::move(handler)});
             return HUDEventMonitorToken(token);
           },
       .removeMonitor =
-          [this](const HUDEventMonitorToken& token) {
+          [this, self](const HUDEventMonitorToken& token) {
             localMonitors_.erase(token.get());
             globalMonitors_.erase(token.get());
           },

@@ -12,11 +12,12 @@ namespace quenby {
 /// a button press over the visible HUD panel is an event of this application (its local
 /// monitors see it, and a left press goes on to the panel); anywhere else it belongs to another
 /// application (the global monitors see it).
-class SimulatedMouseMonitors {
+class SimulatedMouseMonitors : public std::enable_shared_from_this<SimulatedMouseMonitors> {
 public:
   enum class Button { left, right, other };
 
-  /// The operations over this object, which must outlive them.
+  /// The operations over this object; they share its ownership. Call only on an object owned
+  /// by a shared pointer.
   [[nodiscard]] HUDOutsideClickMonitorDependencies dependencies();
 
   /// A press and a release of `button`, at `down` and then at `up`; `panel` may be null.
