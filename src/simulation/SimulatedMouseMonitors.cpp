@@ -20,14 +20,18 @@ HUDOutsideClickMonitorDependencies SimulatedMouseMonitors::dependencies() {
           [this, self](std::uint64_t mask,
                        HUDOutsideClickMonitorDependencies::LocalHandler handler) {
             auto token = std::make_shared<char>();
-            localMonitors_.emplace(token.get(), Monitor{mask, std::move(handler)});
+            localMonitors_.emplace(token.get(),
+                                   Monitor<HUDOutsideClickMonitorDependencies::LocalHandler>{
+                                       mask, std::move(handler)});
             return HUDEventMonitorToken(token);
           },
       .addGlobalMonitor =
           [this, self](std::uint64_t mask,
                        HUDOutsideClickMonitorDependencies::GlobalHandler handler) {
             auto token = std::make_shared<char>();
-            globalMonitors_.emplace(token.get(), Monitor{mask, std::move(handler)});
+            globalMonitors_.emplace(token.get(),
+                                    Monitor<HUDOutsideClickMonitorDependencies::GlobalHandler>{
+                                        mask, std::move(handler)});
             return HUDEventMonitorToken(token);
           },
       .removeMonitor =
