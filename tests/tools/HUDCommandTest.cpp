@@ -138,16 +138,6 @@ TEST(HUDCommandGoldenTest, FadingOutHidesTheKeysButNotThePanel) {
   EXPECT_THAT(svg, HasSubstr("filter=\"url(#hud-shadow)\""));
 }
 
-TEST(HUDCommandGoldenTest, TheSystemThemeFollowsTheEnvironment) {
-  const auto light =
-      draw(HUDSizePreference::small, HUDThemePreference::system, {}, KeyboardHUDColorScheme::light);
-  EXPECT_EQ(light, draw(HUDSizePreference::small, HUDThemePreference::light, {},
-                        KeyboardHUDColorScheme::dark));
-  EXPECT_EQ(
-      draw(HUDSizePreference::small, HUDThemePreference::system, {}, KeyboardHUDColorScheme::dark),
-      draw(HUDSizePreference::small, HUDThemePreference::dark, {}, KeyboardHUDColorScheme::light));
-}
-
 struct CommandResult {
   int status = 0;
   std::string out;
@@ -200,14 +190,6 @@ TEST(HUDCommandTest, DrawsTheDockAndTheLettersResolvedAgainstTheDisk) {
   EXPECT_EQ(asked.size(), 3U);
   EXPECT_THAT(svg, HasSubstr("fill=\"#000000\" fill-opacity=\"0.72\""));
   EXPECT_THAT(svg, HasSubstr("width=\"820\" height=\"390\""));
-}
-
-TEST(HUDCommandTest, WithoutInputsEveryKeyIsUnboundAndSystemIsDrawnLight) {
-  ApplicationBundleFixture disk;
-  const auto svgPath = disk.url("hud.svg").path();
-  ASSERT_EQ(runHUD({"--svg", svgPath, "--theme", "system"}).status, 0);
-  EXPECT_EQ(readText(svgPath), draw(HUDSizePreference::standard, HUDThemePreference::light, {},
-                                    KeyboardHUDColorScheme::dark));
 }
 
 TEST(HUDCommandTest, BadFlagsAndUnreadableFilesFailWithAMessage) {

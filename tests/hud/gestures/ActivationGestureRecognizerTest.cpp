@@ -67,40 +67,6 @@ struct Harness {
 
 using Log = std::vector<std::string>;
 
-TEST(ActivationGestureRecognizerTest, ALongPressOpensAHUDThatItsReleaseCloses) {
-  Harness h;
-  h.press(kLeftOption);
-  h.scheduler.advanceBy(399ms);
-  EXPECT_TRUE(h.log.empty());
-  h.scheduler.advanceBy(1ms);
-  EXPECT_EQ(h.log, (Log{"long", "open"}));
-  // Typing a mapped key keeps it open.
-  h.recognizer.noteOtherKeyDown();
-  h.release(kLeftOption);
-  EXPECT_EQ(h.log, (Log{"long", "open", "close"}));
-}
-
-TEST(ActivationGestureRecognizerTest, ALostReleaseIsFoundOutWhenTheCheckRuns) {
-  Harness h;
-  h.press(kLeftOption);
-  h.keys.held.reset(kLeftOption); // released, but the event never came
-  h.scheduler.advanceBy(1s);
-  EXPECT_TRUE(h.log.empty());
-  EXPECT_EQ(h.recognizer.longPressState(), ModifierLongPressRecognizer::State::idle());
-}
-
-TEST(ActivationGestureRecognizerTest, ALongPressLeavesAStickyHUDOpen) {
-  Harness h;
-  h.tap(kLeftOption);
-  h.tap(kLeftOption);
-  EXPECT_EQ(h.log, (Log{"toggle"}));
-  h.press(kRightOption);
-  h.scheduler.advanceBy(400ms);
-  h.release(kRightOption);
-  EXPECT_EQ(h.log, (Log{"toggle", "long"}));
-  EXPECT_TRUE(h.hudVisible);
-}
-
 TEST(ActivationGestureRecognizerTest, TheGesturePreferenceChoosesWhatCounts) {
   // With both, the held second press of a double tap is not also a long press.
   Harness both;
@@ -120,34 +86,6 @@ TEST(ActivationGestureRecognizerTest, TheGesturePreferenceChoosesWhatCounts) {
   longPress.tap(kLeftOption);
   longPress.tap(kLeftOption);
   EXPECT_TRUE(longPress.log.empty());
-}
-
-TEST(ActivationGestureRecognizerTest, SidesAndModifiersAreKeptApart) {
-  Harness h;
-  h.tap(kLeftOption);
-  h.tap(kRightOption);
-  h.tap(kLeftControl);
-  EXPECT_TRUE(h.log.empty());
-  h.tap(kRightOption);
-  EXPECT_EQ(h.log, (Log{"toggle"}));
-}
-
-TEST(ActivationGestureRecognizerTest, APreferenceChangeClosesTheTransientHUDAndSuppressesHeldKeys) {
-  Harness h;
-  h.press(kLeftOption);
-  h.scheduler.advanceBy(400ms);
-  h.keys.held.set(kLeftControl);
-  h.recognizer.setActivationModifier(Modifier::control);
-  EXPECT_EQ(h.log, (Log{"long", "open", "close"}));
-  EXPECT_TRUE(h.recognizer.normalizer().suppressedUntilRelease.contains(ModifierSide::left));
-
-  // The held Control counts only from its next press; an unchanged setting resets nothing.
-  h.release(kLeftControl);
-  h.tap(kLeftControl);
-  h.recognizer.setActivationModifier(Modifier::control);
-  h.recognizer.setActivationGesture(Gesture::both);
-  h.tap(kLeftControl);
-  EXPECT_EQ(h.log.back(), "toggle");
 }
 
 } // namespace

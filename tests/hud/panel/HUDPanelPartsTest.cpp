@@ -173,22 +173,5 @@ TEST(HUDKeyClickTrackerTest, OnlyAPressAndReleaseOnTheSameKeyClicks) {
   EXPECT_EQ(tracker.release(HUDKey::number(4)), std::nullopt);
 }
 
-TEST(KeyboardHUDPanelConfigurationTest, SizeThemeAndOpacityFollowThePreferences) {
-  const auto large =
-      KeyboardHUDPanelConfiguration::make(HUDSizePreference::large, HUDThemePreference::light);
-  EXPECT_EQ(large.contentSize, (Size{1230, 585}));
-  EXPECT_EQ(large.appearanceName, KeyboardHUDAppearanceName::aqua);
-
-  EXPECT_EQ(
-      KeyboardHUDPanelConfiguration::make(HUDSizePreference::standard, HUDThemePreference::system)
-          .contentSize,
-      (Size{1025, 487.5}));
-  EXPECT_EQ(keyboardHUDAppearanceName(HUDThemePreference::dark),
-            KeyboardHUDAppearanceName::darkAqua);
-  EXPECT_EQ(keyboardHUDAppearanceName(HUDThemePreference::system), std::nullopt);
-  EXPECT_DOUBLE_EQ(keyboardHUDAlpha(HUDOpacityPreference::sixty), 0.6);
-  EXPECT_DOUBLE_EQ(keyboardHUDAlpha(HUDOpacityPreference::oneHundred), 1.0);
-}
-
 } // namespace
 } // namespace quenby

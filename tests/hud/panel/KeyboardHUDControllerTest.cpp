@@ -255,44 +255,6 @@ TEST(KeyboardHUDControllerTest, ClickOutsideHidesAndIsNeverSwallowed) {
   EXPECT_EQ(f.monitors.removed, 4);
 }
 
-TEST(KeyboardHUDControllerTest, ResizeWhileVisibleStaysOnTheScreenItAppearedOn) {
-  Fixture f;
-  f.controller.show();
-  f.placement.current.mouseLocation = {100, 100};
-
-  f.preferences.setHUDSize(HUDSizePreference::large);
-  EXPECT_EQ(f.panel().contentSize(), (Size{1230, 585}));
-  EXPECT_EQ(f.model.hudSize(), HUDSizePreference::large);
-  EXPECT_EQ(f.panel().origin, (Point{1440 + 720 - 615, 450 - 292.5}));
-
-  // Hidden, a size change only resizes; the next show centres on the mouse's screen.
-  f.controller.hide();
-  f.preferences.setHUDSize(HUDSizePreference::standard);
-  EXPECT_EQ(f.panel().origin, (Point{1440 + 720 - 615, 450 - 292.5}));
-  const int layouts = f.panel().layouts;
-  f.controller.show();
-  EXPECT_EQ(f.panel().layouts, layouts);
-  EXPECT_EQ(f.panel().origin, (Point{720 - 512.5, 450 - 243.75}));
-}
-
-TEST(KeyboardHUDControllerTest, FollowsThemeAndOpacityButNotPlacementWhileUp) {
-  Fixture f;
-  f.preferences.setHUDTheme(HUDThemePreference::dark);
-  EXPECT_EQ(f.panel().appearance(), KeyboardHUDAppearanceName::darkAqua);
-  EXPECT_EQ(f.model.hudTheme(), HUDThemePreference::dark);
-  f.preferences.setHUDOpacity(HUDOpacityPreference::sixty);
-  EXPECT_EQ(f.panel().alphaWrites, 0);
-
-  f.controller.show();
-  const Point origin = f.panel().origin;
-  f.preferences.setHUDOpacity(HUDOpacityPreference::ninety);
-  EXPECT_DOUBLE_EQ(f.panel().alpha(), 0.9);
-  f.preferences.setWindowPlacement(WindowPlacementPreference::mainDisplay);
-  f.preferences.setHUDTheme(HUDThemePreference::system);
-  EXPECT_EQ(f.panel().appearance(), std::nullopt);
-  EXPECT_EQ(f.panel().origin, origin);
-}
-
 TEST(KeyboardHUDControllerTest, ChangesCloseTogetherMakeOneFade) {
   Fixture f;
   int contentChanges = 0;

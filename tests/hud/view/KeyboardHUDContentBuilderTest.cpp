@@ -94,19 +94,6 @@ TEST_F(KeyboardHUDContentBuilderTest, StatesFollowTheDockTheLettersAndTheSwitchi
             KeyboardHUDKeyVisualState::unbound);
 }
 
-TEST_F(KeyboardHUDContentBuilderTest, RowsFollowTheLayoutKeyForKey) {
-  const auto rows = builder.rows(cache);
-  ASSERT_EQ(rows.size(), KeyboardHUDLayout::rows().size());
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    const auto keys = KeyboardHUDLayout::rows()[row].keys;
-    ASSERT_EQ(rows[row].size(), keys.size());
-    for (std::size_t column = 0; column < keys.size(); ++column) {
-      EXPECT_EQ(rows[row][column], builder.keyView(keys[column], cache));
-    }
-  }
-  EXPECT_EQ(rows[2][1].label, "S");
-}
-
 TEST_F(KeyboardHUDContentBuilderTest, SpokenLabelsNameTheKeyTheApplicationAndItsState) {
   const auto spoken = [&](HUDKey key) { return builder.keyView(key, cache).accessibilityLabel; };
   EXPECT_EQ(spoken(HUDKey::number(1)), "1, bound to Mail");

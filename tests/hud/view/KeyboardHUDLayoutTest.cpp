@@ -22,23 +22,6 @@ TEST(KeyboardHUDLayoutTest, TheKeyboardIsItsWidestRowByFourRowsWithTheirGaps) {
   EXPECT_EQ(KeyboardHUDLayout::canvasSize(), (Size{799, 386}));
 }
 
-TEST(KeyboardHUDLayoutTest, FramesSitInsideTheCentredCanvasWithTheirPaddings) {
-  EXPECT_EQ(KeyboardHUDLayout::contentSize(HUDSizePreference::small), (Size{820, 390}));
-  EXPECT_EQ(KeyboardHUDLayout::canvasFrame(kSmall), (Rect{10.5, 2, 799, 386}));
-  EXPECT_EQ(KeyboardHUDLayout::backgroundFrame(kSmall), (Rect{38.5, 30, 743, 330}));
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::number(1), kSmall), (Rect{60.5, 52, 60, 64}));
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::number(9), kSmall), (Rect{604.5, 52, 60, 64}));
-  // Rows are indented by a fraction of a key width.
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::letter('Q'), kSmall), (Rect{87.5, 126, 60, 64}));
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::letter('P'), kSmall), (Rect{699.5, 126, 60, 64}));
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::letter('A'), kSmall), (Rect{105.5, 200, 60, 64}));
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::letter('Z'), kSmall), (Rect{132.5, 274, 60, 64}));
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::escape(), kSmall), std::nullopt);
-  EXPECT_EQ(KeyboardHUDLayout::keyFrame(HUDKey::other(), kSmall), std::nullopt);
-  // In the corner, clear of the shorter digit row.
-  EXPECT_EQ(KeyboardHUDLayout::settingsButtonFrame(kSmall), (Rect{751.5, 38, 22, 22}));
-}
-
 TEST(KeyboardHUDLayoutTest, LargeScalesEveryLengthByOneAndAHalf) {
   EXPECT_DOUBLE_EQ(KeyboardHUDLayout::scale(HUDSizePreference::standard), 1.25);
   EXPECT_EQ(KeyboardHUDLayout::metrics(HUDSizePreference::large).scale, 1.5);

@@ -163,21 +163,6 @@ TEST_F(CacheFixture, AFailedLoadIsRetriedWithTheNextSnapshotAndACatalogChangeRel
                                    "/Mail.app", "/Notes.app"}));
 }
 
-TEST_F(CacheFixture, MainThreadLoadsDeliverInLaterTurnsWhileTheirSchedulerLives) {
-  ManualScheduler mainThread;
-  auto deliveries = std::make_unique<MainThreadApplicationIconWorkScheduler>(mainThread);
-  ApplicationIconCache simulated(loader, *deliveries);
-  simulated.update(snapshot(1, 1, {kMail, kNotes}));
-  EXPECT_EQ(simulated.icon(kMail), nullptr);
-  mainThread.runPending();
-  EXPECT_NE(simulated.icon(kNotes), nullptr);
-
-  simulated.update(snapshot(1, 2, {kMail}));
-  deliveries.reset();
-  mainThread.runPending();
-  EXPECT_EQ(simulated.icon(kMail), nullptr);
-}
-
 // Outlives the loader, which may die on the worker as soon as the load is released.
 struct Gate {
   std::latch started{1};
