@@ -6,14 +6,12 @@
 // drawing, the window server) is not in it. The counter `firstFrameMicroseconds` is the mean of
 // the measurement's own samples, read with the steady clock as on a Mac.
 
+#include "ScriptedBenchmarkTap.hpp"
 #include "base/InMemoryKeyValueStore.hpp"
 #include "base/ManualScheduler.hpp"
 #include "data/AppPreferencesStore.hpp"
 #include "hud/panel/HUDPerformanceMetrics.hpp"
 #include "hud/panel/KeyboardHUDController.hpp"
-#include "hud/tap/GlobalKeyboardEventTap.hpp"
-#include "support/ScriptedKeyboardEventTapSystem.hpp"
-#include "support/ScriptedModifierKeyState.hpp"
 
 #include <benchmark/benchmark.h>
 #include <chrono>
@@ -128,28 +126,16 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
        .outsideClickMonitor = HUDOutsideClickMonitorDependencies::inert(),
        .contentAnimationScheduler = scheduler,
        .localizer = localizer});
-  ScriptedKeyboardEventTapSystem system;
-  ScriptedModifierKeyState keys;
-  ForwardingKeyDownRouter router;
-  NullLogger logger;
-  GlobalKeyboardEventTap tap({.dependencies = system.dependencies(),
-                              .preferences = preferences,
-                              .keyStateReader = keys,
-                              .scheduler = scheduler,
-                              .clock = scheduler,
-                              .metrics = metrics,
-                              .router = router,
-                              .logger = logger});
-  tap.attach(&controller);
-  if (tap.start()) {
+  ScriptedBenchmarkTap scripted(preferences, scheduler, scheduler, metrics, &controller);
+  if (!scripted.started) {
     state.SkipWithError("the scripted tap did not start");
     return;
   }
   const auto tapOption = [&] {
-    keys.held.set(kLeftOption);
-    system.flagsChanged(kLeftOption);
-    keys.held.reset(kLeftOption);
-    system.flagsChanged(kLeftOption);
+    scripted.keys.held.set(kLeftOption);
+    scripted.system.flagsChanged(kLeftOption);
+    scripted.keys.held.reset(kLeftOption);
+    scripted.system.flagsChanged(kLeftOption);
     scheduler.advanceBy(50ms);
   };
   for (auto _ : state) {
@@ -161,7 +147,6 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
     scheduler.advanceBy(1s);
     state.ResumeTiming();
   }
-  tap.attach(nullptr);
   const auto& samples = metrics.samples();
   state.counters["firstFrameMicroseconds"] =
       samples.empty() ? 0.0

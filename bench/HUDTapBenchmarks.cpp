@@ -12,11 +12,9 @@
 // the check is the dispatch queue's business.
 
 #include "AllocationCounting.hpp"
+#include "ScriptedBenchmarkTap.hpp"
 #include "base/InMemoryKeyValueStore.hpp"
 #include "data/AppPreferencesStore.hpp"
-#include "hud/tap/GlobalKeyboardEventTap.hpp"
-#include "support/ScriptedKeyboardEventTapSystem.hpp"
-#include "support/ScriptedModifierKeyState.hpp"
 
 #include <benchmark/benchmark.h>
 #include <chrono>
@@ -55,32 +53,20 @@ constexpr std::uint16_t kLeftShift = 56;
 void runModifierChanges(benchmark::State& state, HUDActivationGesturePreference gesture,
                         std::uint16_t keyCode = kLeftOption) {
   SingleSlotScheduler scheduler;
-  ScriptedModifierKeyState keys;
   InMemoryKeyValueStore defaults;
   AppPreferencesStore preferences(defaults, [](const std::string&) {});
   preferences.setHUDActivationGesture(gesture);
-  ScriptedKeyboardEventTapSystem system;
   InertKeyboardHUDPresenter presenter;
   InertHUDPresentationMeasurer metrics;
-  ForwardingKeyDownRouter router;
-  NullLogger logger;
-  GlobalKeyboardEventTap tap({.dependencies = system.dependencies(),
-                              .preferences = preferences,
-                              .keyStateReader = keys,
-                              .scheduler = scheduler,
-                              .clock = scheduler,
-                              .metrics = metrics,
-                              .router = router,
-                              .logger = logger});
-  tap.attach(&presenter);
-  if (tap.start()) {
+  ScriptedBenchmarkTap scripted(preferences, scheduler, scheduler, metrics, &presenter);
+  if (!scripted.started) {
     state.SkipWithError("the scripted tap did not start");
     return;
   }
   const auto change = [&] {
-    keys.held.flip(keyCode);
+    scripted.keys.held.flip(keyCode);
     scheduler.advance(std::chrono::seconds(1));
-    return system.flagsChanged(keyCode);
+    return scripted.system.flagsChanged(keyCode);
   };
   for (int warmUp = 0; warmUp < 4; ++warmUp) {
     change();

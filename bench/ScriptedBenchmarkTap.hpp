@@ -1,0 +1,38 @@
+#pragma once
+
+#include "hud/tap/GlobalKeyboardEventTap.hpp"
+#include "support/ScriptedKeyboardEventTapSystem.hpp"
+#include "support/ScriptedModifierKeyState.hpp"
+
+namespace quenby {
+
+/// A started keyboard tap on the scripted system, forwarding every key, with the keys the
+/// benchmark holds. `presenter` may be null; everything given must outlive it.
+struct ScriptedBenchmarkTap {
+  ScriptedBenchmarkTap(AppPreferencesProviding& preferences, MainScheduler& scheduler,
+                       const MonotonicClock& clock, HUDPresentationMeasuring& metrics,
+                       KeyboardHUDPresenting* presenter)
+      : tap({.dependencies = system.dependencies(),
+             .preferences = preferences,
+             .keyStateReader = keys,
+             .scheduler = scheduler,
+             .clock = clock,
+             .metrics = metrics,
+             .router = router,
+             .logger = logger}) {
+    tap.attach(presenter);
+    started = !tap.start();
+  }
+  ~ScriptedBenchmarkTap() { tap.attach(nullptr); }
+  ScriptedBenchmarkTap(const ScriptedBenchmarkTap&) = delete;
+  ScriptedBenchmarkTap& operator=(const ScriptedBenchmarkTap&) = delete;
+
+  ScriptedKeyboardEventTapSystem system;
+  ScriptedModifierKeyState keys;
+  ForwardingKeyDownRouter router;
+  NullLogger logger;
+  GlobalKeyboardEventTap tap;
+  bool started = false;
+};
+
+} // namespace quenby
