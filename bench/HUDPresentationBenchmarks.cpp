@@ -103,6 +103,7 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
   InertRunningApplicationMonitor running;
   InertAppSwitchCommandSubmitter switchCommands;
   InertAppSwitchFailureHandler failureHandler;
+  NoOpShortcutAnimationPresenter animation;
   InertConfigurationFailureReporter reporter;
   InertWindowPlacementSnapshotProvider placement;
   EnglishLocalizer localizer;
@@ -117,6 +118,7 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
        .runningApplications = running,
        .switchCommands = switchCommands,
        .failureHandler = failureHandler,
+       .animation = animation,
        .configurationReporter = reporter,
        .preferences = preferences,
        .windowPlacement = placement,

@@ -39,6 +39,7 @@ void BM_HotKeyPressDecision(benchmark::State& state) {
   AppPreferencesStore preferences(defaults, [](const std::string&) {});
   InertFrontmostApplicationProvider frontmost;
   InertAppHider hider;
+  NoOpShortcutAnimationPresenter animation;
   EnglishLocalizer localizer;
   OptionDigitHotKeyRegistrar registrar(
       {.backend = backend,
@@ -49,6 +50,7 @@ void BM_HotKeyPressDecision(benchmark::State& state) {
        .preferences = preferences,
        .frontmostApplications = frontmost,
        .appHider = hider,
+       .animation = animation,
        .localizer = localizer});
   int digit = 0;
   for (int warmUp = 1; warmUp <= 9; ++warmUp) {

@@ -12,7 +12,11 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_,
            shell_.configurationReporter()),
-      lifecycle_(makeLifecycle()) {}
+      lifecycle_(makeLifecycle()) {
+  hud_.controller().setSettingsOpener([this] { platform_.ui.settingsWindow->show(); });
+  hud_.controller().setLetterEditorOpener(
+      [this](char letter) { platform_.ui.mappingEditor->open(letter); });
+}
 
 // Which feature each of the coordinator's steps reaches; the coordinator alone decides their
 // order (AppCoordinator::start and stop). A step whose feature does not exist yet stays a no-op.
@@ -28,7 +32,10 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.startRunningApplications = [this] { shortcuts_.startRunningApplications(); };
   lifecycle.startOptionDigits = [this] { shortcuts_.startOptionDigits(); };
   lifecycle.restoreHUD = [this] { hud_.restoreHUD(); };
+  lifecycle.showSettings = [this] { platform_.ui.settingsWindow->show(); };
   lifecycle.hideHUD = [this] { hud_.hideHUD(); };
+  lifecycle.closeMappingEditor = [this] { platform_.ui.mappingEditor->close(); };
+  lifecycle.closeSettings = [this] { platform_.ui.settingsWindow->close(); };
   lifecycle.stopEventTap = [this] { hud_.stopEventTap(); };
   lifecycle.stopOptionDigits = [this] { shortcuts_.stopOptionDigits(); };
   lifecycle.stopSwitchCommands = [this] { shortcuts_.stopSwitchCommands(); };

@@ -5,6 +5,7 @@
 #include "data/DataPlatform.hpp"
 #include "hud/HUDPlatform.hpp"
 #include "shortcuts/ShortcutsPlatform.hpp"
+#include "ui/UIPlatform.hpp"
 
 namespace quenby {
 
@@ -17,6 +18,7 @@ struct PlatformServices {
   ShortcutsPlatform shortcuts;
   DataPlatform data;
   HUDPlatform hud;
+  UIPlatform ui;
 
   /// Harmless adapters throughout.
   [[nodiscard]] static PlatformServices inert() {
@@ -24,7 +26,8 @@ struct PlatformServices {
             .app = AppShellPlatform::inert(),
             .shortcuts = ShortcutsPlatform::inert(),
             .data = DataPlatform::inert(),
-            .hud = HUDPlatform::inert()};
+            .hud = HUDPlatform::inert(),
+            .ui = UIPlatform::inert()};
   }
 };
 

@@ -56,6 +56,7 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
                              .preferences = preferences,
                              .frontmostApplications = *frontmostApplication_,
                              .appHider = appHider_,
+                             .animation = *shortcutAnimation_,
                              .localizer = *base.localizer}),
       optionDigits_(optionDigitRegistrar_, preferences, *platform.symbolicHotKeys),
       runningApplications_(*platform.runningApplications, *base.scheduler),

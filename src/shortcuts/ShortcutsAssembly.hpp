@@ -20,6 +20,9 @@
 #include "shortcuts/switching/AppSwitchFailureHandler.hpp"
 #include "shortcuts/switching/WorkspaceAppHider.hpp"
 #include "shortcuts/switching/WorkspaceAppSwitchingAdapter.hpp"
+#include "ui/animation/ShortcutAnimationPresenting.hpp"
+
+#include <memory>
 
 namespace quenby {
 
@@ -89,6 +92,8 @@ public:
   [[nodiscard]] AppSwitchCommandQueue& switchCommands() { return switchCommands_; }
   [[nodiscard]] AppSwitchFailureHandling& switchFailureHandler() { return failureHandler_; }
   [[nodiscard]] AppHiding& appHider() { return appHider_; }
+  /// Played by every accepted digit, letter or HUD shortcut.
+  [[nodiscard]] ShortcutAnimationPresenting& shortcutAnimation() { return *shortcutAnimation_; }
   [[nodiscard]] const FrontmostApplicationProviding& frontmostApplication() const {
     return *frontmostApplication_;
   }
@@ -105,6 +110,8 @@ private:
   AppSwitchCommandQueue switchCommands_;
   WorkspaceAppHider appHider_;
   std::shared_ptr<FrontmostApplicationProviding> frontmostApplication_;
+  std::unique_ptr<ShortcutAnimationPresenting> shortcutAnimation_ =
+      std::make_unique<NoOpShortcutAnimationPresenter>();
   OptionDigitHotKeyRegistrar optionDigitRegistrar_;
   OptionDigitHotKeyFeatureController optionDigits_;
   WorkspaceRunningApplicationMonitor runningApplications_;

@@ -6,7 +6,9 @@
 #include "simulation/RecordingKeyValueStore.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
 #include "simulation/SimulatedLogger.hpp"
+#include "simulation/SimulatedMappingEditor.hpp"
 #include "simulation/SimulatedModifierKeyStateReader.hpp"
+#include "simulation/SimulatedSettingsWindow.hpp"
 #include "simulation/SimulatedWindowPlacementSnapshotProvider.hpp"
 #include "simulation/SimulatedWorkspaceAdapters.hpp"
 
@@ -104,6 +106,8 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
                            std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
                        .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
               .hud = simulatedHud(world, recorder, *eventTap, *mouse, panels),
+              .ui = {.settingsWindow = std::make_shared<SimulatedSettingsWindow>(recorder),
+                     .mappingEditor = std::make_shared<SimulatedMappingEditor>(recorder)},
           },
       .hotKeys = hotKeys,
       .eventTap = eventTap,

@@ -28,6 +28,8 @@ PlatformServices makeLivePlatformServices() {
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),
                .calendar = std::make_shared<SystemUsageCalendar>()},
       .hud = makeLiveHUDPlatform(),
+      // The windows come with their own change; until then Settings and the editor open nothing.
+      .ui = UIPlatform::inert(),
   };
 }
 

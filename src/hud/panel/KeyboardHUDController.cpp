@@ -150,6 +150,7 @@ void KeyboardHUDController::switchChecked(const AppMapping& mapping) {
         AppSwitchingError::configuration(std::move(*failure)), mapping);
     return;
   }
+  collaborators_.animation.present(mapping, collaborators_.preferences.activationModifier());
   collaborators_.switchCommands.submit(mapping);
 }
 

@@ -20,6 +20,7 @@
 #include "shortcuts/running/RunningApplicationMonitoring.hpp"
 #include "shortcuts/switching/AppSwitchCommandSubmitting.hpp"
 #include "shortcuts/switching/AppSwitchFailureHandling.hpp"
+#include "ui/animation/ShortcutAnimationPresenting.hpp"
 
 #include <chrono>
 #include <cstdint>
@@ -49,6 +50,8 @@ public:
     RunningApplicationMonitoring& runningApplications;
     AppSwitchCommandSubmitting& switchCommands;
     AppSwitchFailureHandling& failureHandler;
+    /// Plays just before an accepted pick is submitted.
+    ShortcutAnimationPresenting& animation;
     ConfigurationFailureReporting& configurationReporter;
     AppPreferencesProviding& preferences;
     const WindowPlacementSnapshotProviding& windowPlacement;

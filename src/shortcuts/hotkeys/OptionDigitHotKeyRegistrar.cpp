@@ -2,6 +2,7 @@
 
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrationRequest.hpp"
 #include "shortcuts/mapping/NumberMappingEntries.hpp"
+#include "shortcuts/switching/AppShortcutAction.hpp"
 
 namespace quenby {
 
@@ -63,20 +64,21 @@ void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
     reportUnavailable(digit, *entry.problem());
     return;
   }
-  if (auto failure = switchConfigurationFailure(*mapping)) {
+  auto action = AppShortcutAction::decide(*mapping, hidesFrontmostApplication_,
+                                          collaborators_.frontmostApplications);
+  switch (action.kind) {
+  case AppShortcutAction::Kind::reportFailure:
     collaborators_.failureHandler.handleFailure(
-        AppSwitchingError::configuration(std::move(*failure)), *mapping);
+        AppSwitchingError::configuration(std::move(*action.failure)), *mapping);
+    return;
+  case AppShortcutAction::Kind::hide:
+    collaborators_.appHider.hideIfFrontmost(*mapping);
+    return;
+  case AppShortcutAction::Kind::switchToApplication:
+    collaborators_.animation.present(*mapping, activeModifier_);
+    collaborators_.switchCommands.submit(*mapping);
     return;
   }
-  // The frontmost application is asked for only when the answer can matter.
-  if (hidesFrontmostApplication_) {
-    const auto frontmost = collaborators_.frontmostApplications.frontmostBundleIdentifier();
-    if (frontmost && *frontmost == mapping->bundleIdentifier) {
-      collaborators_.appHider.hideIfFrontmost(*mapping);
-      return;
-    }
-  }
-  collaborators_.switchCommands.submit(*mapping);
 }
 
 void OptionDigitHotKeyRegistrar::reportUnavailable(int digit, const NumberMappingProblem& problem) {

@@ -12,6 +12,7 @@
 #include "shortcuts/switching/AppSwitchCommandSubmitting.hpp"
 #include "shortcuts/switching/AppSwitchFailureHandling.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
+#include "ui/animation/ShortcutAnimationPresenting.hpp"
 
 #include <array>
 #include <cstddef>
@@ -40,6 +41,8 @@ public:
     AppPreferencesProviding& preferences;
     const FrontmostApplicationProviding& frontmostApplications;
     AppHiding& appHider;
+    /// Plays just before an accepted press is submitted.
+    ShortcutAnimationPresenting& animation;
     const Localizer& localizer;
   };
 

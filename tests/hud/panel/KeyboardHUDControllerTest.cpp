@@ -136,6 +136,7 @@ struct Fixture {
   FakePlacement placement;
   RecordingSubmitter submitter;
   RecordingAppSwitchFailureHandler failureHandler;
+  NoOpShortcutAnimationPresenter animation;
   RecordingReporter reporter;
   ManualScheduler scheduler;
   std::vector<HUDPresentationPhase> phases;
@@ -155,6 +156,7 @@ struct Fixture {
       .runningApplications = running,
       .switchCommands = submitter,
       .failureHandler = failureHandler,
+      .animation = animation,
       .configurationReporter = reporter,
       .preferences = preferences,
       .windowPlacement = placement,

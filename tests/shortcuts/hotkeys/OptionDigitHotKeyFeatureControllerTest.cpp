@@ -41,6 +41,7 @@ struct Fixture {
   AppPreferencesStore preferences{defaults, [](const std::string&) {}};
   InertFrontmostApplicationProvider frontmost;
   InertAppHider hider;
+  NoOpShortcutAnimationPresenter animation;
   EnglishLocalizer localizer;
   ScriptedSymbolicHotKeys symbolicHotKeys;
   OptionDigitHotKeyRegistrar registrar{OptionDigitHotKeyRegistrar::Collaborators{
@@ -52,6 +53,7 @@ struct Fixture {
       .preferences = preferences,
       .frontmostApplications = frontmost,
       .appHider = hider,
+      .animation = animation,
       .localizer = localizer}};
   OptionDigitHotKeyFeatureController controller{registrar, preferences, symbolicHotKeys};
   std::vector<Health> published;

@@ -52,6 +52,7 @@ struct Fixture {
         .preferences = preferences,
         .frontmostApplications = frontmost,
         .appHider = hider,
+        .animation = animation,
         .localizer = localizer});
   }
 
@@ -65,6 +66,7 @@ struct Fixture {
   AppPreferencesStore preferences{defaults, [](const std::string&) {}};
   InertFrontmostApplicationProvider frontmost;
   InertAppHider hider;
+  NoOpShortcutAnimationPresenter animation;
   EnglishLocalizer localizer;
 };
 
