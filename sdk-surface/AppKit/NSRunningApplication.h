@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKitDefines.h>
 #import <Foundation/NSObject.h>
+#include <sys/types.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -14,6 +15,10 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
 // YES once the application has quit; the workspace may still list it briefly.
 @property(readonly, getter=isTerminated) BOOL terminated;
+// The name the user sees; nil when the system does not know one.
+@property(nullable, readonly, copy) NSString* localizedName;
+// Nil when no application runs with that process identifier.
++ (nullable instancetype)runningApplicationWithProcessIdentifier:(pid_t)pid;
 // NO when the application refused (a full-screen application does).
 - (BOOL)hide;
 @end

@@ -53,6 +53,8 @@ OSStatus RegisterEventHotKey(UInt32 inHotKeyCode, UInt32 inHotKeyModifiers,
                              EventHotKeyID inHotKeyID, EventTargetRef inTarget,
                              OptionBits inOptions, EventHotKeyRef* outRef);
 OSStatus UnregisterEventHotKey(EventHotKeyRef inHotKey);
+// True while any process has secure keyboard entry on; event taps then see no keystrokes.
+Boolean IsSecureEventInputEnabled(void);
 
 #ifdef __cplusplus
 }

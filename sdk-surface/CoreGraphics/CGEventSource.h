@@ -9,5 +9,7 @@
 CF_EXTERN_C_BEGIN
 
 bool CGEventSourceKeyState(CGEventSourceStateID stateID, CGKeyCode key);
+// Events of that type the source state has seen since the system started (wraps at 2^32).
+uint32_t CGEventSourceCounterForEventType(CGEventSourceStateID stateID, CGEventType eventType);
 
 CF_EXTERN_C_END

@@ -8,3 +8,4 @@
 #include <CoreGraphics/CGEventSource.h>
 #include <CoreGraphics/CGEventTypes.h>
 #include <CoreGraphics/CGGeometry.h>
+#include <CoreGraphics/CGSession.h>

@@ -37,13 +37,24 @@ HUDAssembly::HUDAssembly(const BasePlatform& base, const HUDPlatform& platform,
                                                    .router = router_,
                                                    .logger = *base.logger}),
       feature_(permission_, eventTap_, UserDefaultsHUDFeaturePreferences(*base.userDefaults),
-               *base.scheduler) {
+               *base.scheduler),
+      keyboardAccess_(
+          *platform.keyboardAccess, [this] { return eventTap_.keyDownCount(); }, *base.scheduler) {
   eventTap_.attach(&controller_);
   eventTap_.setOnFailure(
       [this](GlobalKeyboardEventTapFailure failure) { feature_.handleTapFailure(failure); });
+  // Only a running tap can be deaf, and only then do letter shortcuts depend on hearing keys.
+  featureHealthObservation_ = feature_.observeHealth([this] {
+    if (feature_.health().kind == HUDHealth::Kind::ready) {
+      keyboardAccess_.start();
+    } else {
+      keyboardAccess_.stop();
+    }
+  });
 }
 
 HUDAssembly::~HUDAssembly() {
+  featureHealthObservation_.cancel();
   feature_.stop();
   eventTap_.attach(nullptr);
 }

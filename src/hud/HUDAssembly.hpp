@@ -5,6 +5,7 @@
 #include "data/DataAssembly.hpp"
 #include "data/DataPlatform.hpp"
 #include "hud/HUDPlatform.hpp"
+#include "hud/access/KeyboardAccessMonitor.hpp"
 #include "hud/feature/HUDFeatureController.hpp"
 #include "hud/panel/HUDPerformanceMetrics.hpp"
 #include "hud/panel/KeyboardHUDController.hpp"
@@ -31,7 +32,10 @@ public:
   /// Starts the keyboard tap when the user enabled the HUD and macOS permits it.
   void restoreHUD() { feature_.restore(); }
   void hideHUD() { controller_.hide(); }
-  void stopEventTap() { feature_.stop(); }
+  void stopEventTap() {
+    feature_.stop();
+    keyboardAccess_.stop();
+  }
 
   [[nodiscard]] KeyboardHUDController& controller() { return controller_; }
   [[nodiscard]] const KeyboardHUDViewModel& model() const { return model_; }
@@ -39,6 +43,8 @@ public:
   [[nodiscard]] GlobalKeyboardEventTap& eventTap() { return eventTap_; }
   [[nodiscard]] SystemEventTapPermission& permission() { return permission_; }
   [[nodiscard]] HUDFeatureController& feature() { return feature_; }
+  /// Secure keyboard entry and a stale grant, watched while the tap runs.
+  [[nodiscard]] KeyboardAccessMonitor& keyboardAccess() { return keyboardAccess_; }
 
 private:
   KeyboardHUDViewModel model_;
@@ -49,6 +55,8 @@ private:
   SystemEventTapPermission permission_;
   GlobalKeyboardEventTap eventTap_;
   HUDFeatureController feature_;
+  KeyboardAccessMonitor keyboardAccess_;
+  ObservationToken featureHealthObservation_;
 };
 
 } // namespace quenby

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hud/access/KeyboardAccessProbing.hpp"
 #include "hud/gestures/SystemModifierKeyStateReader.hpp"
 #include "hud/panel/HUDOutsideClickMonitorDependencies.hpp"
 #include "hud/panel/HUDPresentationSignposting.hpp"
@@ -12,8 +13,8 @@
 namespace quenby {
 
 /// What the keyboard HUD needs from the platform: the session-wide keyboard tap and its
-/// permissions, the physical state of the modifier keys, the panel with its mouse monitors, and
-/// the presentation signposts.
+/// permissions, the physical state of the modifier keys, the panel with its mouse monitors, the
+/// presentation signposts, and the system's view of who may read the keyboard.
 struct HUDPlatform {
   SystemKeyboardEventTapDependencies eventTap = SystemKeyboardEventTapDependencies::inert();
   SystemEventTapPermission::Operations permission = SystemEventTapPermission::Operations::inert();
@@ -24,6 +25,8 @@ struct HUDPlatform {
   HUDOutsideClickMonitorDependencies outsideClicks = HUDOutsideClickMonitorDependencies::inert();
   std::shared_ptr<HUDPresentationSignposting> signposter =
       std::make_shared<InertHUDPresentationSignposter>();
+  std::shared_ptr<KeyboardAccessProbing> keyboardAccess =
+      std::make_shared<InertKeyboardAccessProbe>();
 
   /// No tap can be created, nothing is granted, no key is held and the panel never appears.
   [[nodiscard]] static HUDPlatform inert() { return {}; }

@@ -81,6 +81,13 @@ void modifierLostLine(ScenarioContext& context, const Arguments& arguments) {
 }
 
 void key(ScenarioContext& context, std::uint16_t keyCode, bool down, bool isRepeat) {
+  SimulatedKeyboard& keyboard = context.world().keyboard();
+  if (down) {
+    ++keyboard.systemKeyDownCount;
+  }
+  if (!keyboard.tapHearsKeys()) {
+    return;
+  }
   if (SimulatedKeyboardEventTap* tap = context.eventTap()) {
     tap->deliverKey(keyCode, down, isRepeat);
   }
@@ -151,14 +158,36 @@ void dragLine(ScenarioContext& context, const Arguments& arguments) {
         SimulatedMouseMonitors::Button::left, "drag");
 }
 
+void secureInputLine(ScenarioContext& context, const Arguments& arguments) {
+  expectArgumentCount(arguments, 2, 2, "secure-input APP|off");
+  auto& holder = context.world().keyboard().secureInputHolder;
+  if (arguments[1] == "off") {
+    holder.reset();
+  } else {
+    holder = arguments[1];
+  }
+}
+
+void tapDeafLine(ScenarioContext& context, const Arguments& arguments) {
+  constexpr const char* usage = "tap-deaf on|off";
+  expectArgumentCount(arguments, 2, 2, usage);
+  context.world().keyboard().tapDeaf = parseOnOff(arguments[1], usage);
+}
+
 void writeState(const ScenarioContext&, AppRuntime* runtime, nlohmann::ordered_json& fields) {
   if (runtime == nullptr) {
     fields["hud"] = nullptr;
     fields["hudVisible"] = false;
+    fields["secureInput"] = nullptr;
+    fields["tapStale"] = false;
     return;
   }
   fields["hud"] = std::string(runtime->hud().feature().health().caseName());
   fields["hudVisible"] = runtime->hud().controller().isVisible();
+  const KeyboardAccessCondition& access = runtime->hud().keyboardAccess().condition();
+  fields["secureInput"] =
+      access.secureInputHolder ? nlohmann::ordered_json(*access.secureInputHolder) : nullptr;
+  fields["tapStale"] = access.tapLooksStale;
 }
 
 } // namespace
@@ -170,6 +199,8 @@ void registerHUDScenarioLines(ScenarioLineRegistry& registry) {
   registry.addLine("key", keyLine);
   registry.addLine("press", pressLine);
   registry.addLine("tap-disable", tapDisableLine);
+  registry.addLine("secure-input", secureInputLine);
+  registry.addLine("tap-deaf", tapDeafLine);
   registry.addLine("tap-reenable-fails", [](ScenarioContext& context, const Arguments& arguments) {
     expectArgumentCount(arguments, 1, 1, "tap-reenable-fails");
     requireEventTap(context, "tap-reenable-fails").failNextReenable();

@@ -38,6 +38,13 @@ double parseReal(const std::string& text) {
   return value;
 }
 
+bool parseOnOff(const std::string& text, const char* usage) {
+  if (text != "on" && text != "off") {
+    throw ScenarioLineError{"expected on or off: " + std::string(usage)};
+  }
+  return text == "on";
+}
+
 PropertyListValue parseDefaultValue(const std::string& type, const std::string& text) {
   if (type == "string") {
     return text;

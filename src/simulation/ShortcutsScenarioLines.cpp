@@ -75,10 +75,7 @@ void dockLine(ScenarioContext& context, const Arguments& arguments) {
     dock.makePersistentAppsInvalid();
   } else if (kind == "sync-fails") {
     needs(3, "dock sync-fails on|off");
-    if (arguments[2] != "on" && arguments[2] != "off") {
-      throw ScenarioLineError{"usage: dock sync-fails on|off"};
-    }
-    dock.setSynchronizationFails(arguments[2] == "on");
+    dock.setSynchronizationFails(parseOnOff(arguments[2], "dock sync-fails on|off"));
   } else {
     throw ScenarioLineError{"unknown Dock item \"" + kind + "\""};
   }

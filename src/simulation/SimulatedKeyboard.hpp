@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <set>
+#include <string>
 #include <string_view>
 
 namespace quenby {
@@ -26,8 +27,17 @@ public:
   /// device-dependent bit, as the system sets them.
   [[nodiscard]] std::uint64_t flags() const;
 
+  /// Whether a keyboard tap receives key events now: not while secure keyboard entry is on, and
+  /// not while the system shows a grant it no longer honours.
+  [[nodiscard]] bool tapHearsKeys() const { return !secureInputHolder && !tapDeaf; }
+
   bool accessibilityGranted = true;
   bool inputMonitoringGranted = true;
+  /// The name of the application holding secure keyboard entry, while one does.
+  std::optional<std::string> secureInputHolder;
+  bool tapDeaf = false;
+  /// Key-downs the system has counted, whether or not a tap received them.
+  std::uint64_t systemKeyDownCount = 0;
 
 private:
   std::set<std::uint16_t> held_;

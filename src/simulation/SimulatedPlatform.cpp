@@ -5,6 +5,7 @@
 #include "shortcuts/running/MainThreadApplicationIconWorkScheduler.hpp"
 #include "simulation/RecordingKeyValueStore.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
+#include "simulation/SimulatedKeyboardAccessProbe.hpp"
 #include "simulation/SimulatedLogger.hpp"
 #include "simulation/SimulatedMappingEditor.hpp"
 #include "simulation/SimulatedModifierKeyStateReader.hpp"
@@ -83,6 +84,7 @@ HUDPlatform simulatedHud(SimulatedWorld& world, const ScenarioEventRecorder& rec
       .keyStateReader = std::make_shared<SimulatedModifierKeyStateReader>(keyboard),
       .panelFactory = std::move(panels),
       .outsideClicks = mouse.dependencies(),
+      .keyboardAccess = std::make_shared<SimulatedKeyboardAccessProbe>(keyboard),
   };
 }
 

@@ -4,6 +4,7 @@
 
 #include "hud/macos/LiveHUDPlatform.hpp"
 
+#include "hud/access/macos/SystemKeyboardAccessProbe.hpp"
 #include "hud/gestures/macos/EventSourceModifierKeyStateReader.hpp"
 #include "hud/panel/macos/LiveHUDOutsideClickMonitorDependencies.hpp"
 #include "hud/panel/macos/OSHUDPresentationSignposter.hpp"
@@ -23,6 +24,7 @@ HUDPlatform makeLiveHUDPlatform() {
       .panelFactory = std::make_shared<SystemKeyboardHUDPanelFactory>(),
       .outsideClicks = makeLiveHUDOutsideClickMonitorDependencies(),
       .signposter = std::make_shared<OSHUDPresentationSignposter>(),
+      .keyboardAccess = std::make_shared<SystemKeyboardAccessProbe>(),
   };
 }
 

@@ -170,6 +170,7 @@ void GlobalKeyboardEventTap::fail(GlobalKeyboardEventTapFailure failure) {
 }
 
 EventTapDisposition GlobalKeyboardEventTap::handleKeyDown(const KeyboardTapEvent& event) {
+  ++keyDownCount_;
   gestures_.noteOtherKeyDown();
   const auto keyCode = keyCodeOf(event);
   if (event.isAutorepeat && settingsShortcutKeyCodes_.contains(keyCode)) {

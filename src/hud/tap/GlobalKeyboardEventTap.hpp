@@ -11,6 +11,7 @@
 #include "hud/tap/KeyboardHUDPresenting.hpp"
 #include "hud/tap/SystemKeyboardEventTapBackend.hpp"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -69,6 +70,9 @@ public:
 
   /// Between a re-enable after a time-out and the next ordinary event.
   [[nodiscard]] bool isAwaitingNormalEvent() const { return timeoutRetryPendingNormalEvent_; }
+  /// Every key-down this tap has received, repeats included: compared with the system's own
+  /// count to tell a tap that stopped hearing anything.
+  [[nodiscard]] std::uint64_t keyDownCount() const { return keyDownCount_; }
   [[nodiscard]] const ActivationGestureRecognizer& gestures() const { return gestures_; }
   [[nodiscard]] const KeyCodeSet& consumedKeyCodes() const { return consumedKeyCodes_; }
   [[nodiscard]] const KeyCodeSet& hiddenShortcutKeyCodes() const { return hiddenShortcutKeyCodes_; }
@@ -95,6 +99,7 @@ private:
   bool timeoutRetryPendingNormalEvent_ = false;
   /// Set once a failure has been reported, until the next successful start: one stop, one report.
   bool failureReported_ = false;
+  std::uint64_t keyDownCount_ = 0;
   KeyCodeSet consumedKeyCodes_;
   KeyCodeSet hiddenShortcutKeyCodes_;
   KeyCodeSet settingsShortcutKeyCodes_;
