@@ -10,8 +10,7 @@ namespace quenby {
 namespace {
 
 /// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{"layout", "reduce-motion", "menu",
-                                        "alert",  "secure-input",  "tap-deaf"};
+constexpr std::array kLaterFeatureLines{"layout", "menu", "alert", "secure-input", "tap-deaf"};
 
 } // namespace
 
@@ -23,6 +22,7 @@ ScenarioRunner::ScenarioRunner(ScenarioEventSink& sink, std::string scriptDirect
   registerSwitchingScenarioLines(lines_);
   registerDataScenarioLines(lines_);
   registerHUDScenarioLines(lines_);
+  registerUIScenarioLines(lines_);
 }
 
 ScenarioRunner::~ScenarioRunner() = default;
