@@ -12,6 +12,8 @@ NS_ASSUME_NONNULL_BEGIN
 @property(class, readonly, copy) NSArray<NSScreen*>* screens;
 @property(class, readonly, nullable, strong) NSScreen* mainScreen;
 @property(readonly) NSRect frame;
+// The frame less the menu bar and the Dock.
+@property(readonly) NSRect visibleFrame;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -22,6 +22,7 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 - (instancetype)initWithFrame:(NSRect)frameRect;
 @property(readonly, getter=isFlipped) BOOL flipped;
 @property BOOL needsDisplay;
+- (void)displayIfNeeded;
 - (BOOL)acceptsFirstMouse:(nullable NSEvent*)event;
 @property NSRect frame;
 @property NSRect bounds;

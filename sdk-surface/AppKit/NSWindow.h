@@ -13,12 +13,16 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSColor, NSEvent, NSString, NSView;
 
 typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
+  NSWindowStyleMaskBorderless = 0,
   NSWindowStyleMaskTitled = 1 << 0,
   NSWindowStyleMaskClosable = 1 << 1,
+  NSWindowStyleMaskNonactivatingPanel = 1 << 7,
 };
 
 typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
+  NSWindowCollectionBehaviorCanJoinAllSpaces = 1 << 0,
   NSWindowCollectionBehaviorMoveToActiveSpace = 1 << 1,
+  NSWindowCollectionBehaviorIgnoresCycle = 1 << 6,
   NSWindowCollectionBehaviorFullScreenAuxiliary = 1 << 8,
 };
 

@@ -32,6 +32,8 @@ NS_ASSUME_NONNULL_BEGIN
 - (NSImage*)iconForFile:(NSString*)fullPath;
 // Opens the URL with the application registered for its scheme; NO when none would.
 - (BOOL)openURL:(NSURL*)url;
+// macOS 10.12. The user's Reduce motion accessibility setting, read live.
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
 // macOS 10.15. The handler runs once, on a concurrent queue, never the main one.
 - (void)openApplicationAtURL:(NSURL*)applicationURL
                configuration:(NSWorkspaceOpenConfiguration*)configuration

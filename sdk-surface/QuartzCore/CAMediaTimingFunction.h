@@ -9,6 +9,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 typedef NSString* CAMediaTimingFunctionName;
 FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseInEaseOut;
+FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseOut;
 
 @interface CAMediaTimingFunction : NSObject
 + (instancetype)functionWithName:(CAMediaTimingFunctionName)name;

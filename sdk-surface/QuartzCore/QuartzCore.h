@@ -2,6 +2,8 @@
 // documentation. Not Apple's header: only what the .mm files use.
 #pragma once
 
+#import <QuartzCore/CAAnimation.h>
 #import <QuartzCore/CALayer.h>
+#import <QuartzCore/CAMediaTiming.h>
 #import <QuartzCore/CAMediaTimingFunction.h>
 #import <QuartzCore/CATransaction.h>

@@ -7,8 +7,8 @@ namespace quenby {
 AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration configuration)
     : platform_(std::move(platform)), shell_(platform_.base, platform_.app),
       data_(platform_.base, platform_.data, shell_.configurationReporter()),
-      shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(), data_.usage(),
-                 data_.preferences(),
+      shortcuts_(platform_.base, platform_.shortcuts, platform_.ui, shell_.configurationReporter(),
+                 data_.usage(), data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_,
            shell_.configurationReporter()),
@@ -28,6 +28,7 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.preloadIcons = [this](const KeyboardMappingSnapshot& snapshot) {
     shortcuts_.preloadIcons(snapshot);
   };
+  lifecycle.prewarmShortcutAnimation = [this] { shortcuts_.shortcutAnimation().prewarm(); };
   lifecycle.startCatalogMonitoring = [this] { shortcuts_.startCatalogMonitoring(); };
   lifecycle.startRunningApplications = [this] { shortcuts_.startRunningApplications(); };
   lifecycle.startOptionDigits = [this] { shortcuts_.startOptionDigits(); };
@@ -38,6 +39,7 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.closeSettings = [this] { platform_.ui.settingsWindow->close(); };
   lifecycle.stopEventTap = [this] { hud_.stopEventTap(); };
   lifecycle.stopOptionDigits = [this] { shortcuts_.stopOptionDigits(); };
+  lifecycle.stopShortcutAnimation = [this] { shortcuts_.shortcutAnimation().stop(); };
   lifecycle.stopSwitchCommands = [this] { shortcuts_.stopSwitchCommands(); };
   lifecycle.stopRunningApplications = [this] { shortcuts_.stopRunningApplications(); };
   lifecycle.stopCatalogMonitoring = [this] { shortcuts_.stopCatalogMonitoring(); };

@@ -19,6 +19,7 @@ AppSwitchFailureHandler::TransientObserver loggingTransientObserver(Logger& logg
 } // namespace
 
 ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
+                                     const UIPlatform& ui,
                                      ConfigurationFailureReporting& configurationReporter,
                                      UsageAnalyticsRecording& usageAnalytics,
                                      AppPreferencesProviding& preferences, Options options)
@@ -40,6 +41,13 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
       switchCommands_(appSwitcher_, failureHandler_, usageAnalytics, *base.scheduler),
       appHider_(platform.frontmostHidableApplication),
       frontmostApplication_(platform.frontmostApplication),
+      iconCache_(platform.iconLoader, *platform.iconWorkScheduler),
+      shortcutAnimation_({.preferences = preferences,
+                          .icons = iconCache_,
+                          .panelFactory = *ui.shortcutAnimationPanels,
+                          .screens = *ui.shortcutAnimationScreens,
+                          .motion = *ui.shortcutAnimationMotion,
+                          .scheduler = *base.scheduler}),
       optionDigitRegistrar_({.backend = *platform.hotKeyBackend,
                              // A press re-reads the Dock first: App Nap may have stretched the
                              // poll, and a press must never reach a stale position. An unchanged
@@ -56,10 +64,9 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
                              .preferences = preferences,
                              .frontmostApplications = *frontmostApplication_,
                              .appHider = appHider_,
-                             .animation = *shortcutAnimation_,
+                             .animation = shortcutAnimation_,
                              .localizer = *base.localizer}),
       optionDigits_(optionDigitRegistrar_, preferences, *platform.symbolicHotKeys),
-      runningApplications_(*platform.runningApplications, *base.scheduler),
-      iconCache_(platform.iconLoader, *platform.iconWorkScheduler) {}
+      runningApplications_(*platform.runningApplications, *base.scheduler) {}
 
 } // namespace quenby

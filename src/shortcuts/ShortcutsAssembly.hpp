@@ -20,7 +20,8 @@
 #include "shortcuts/switching/AppSwitchFailureHandler.hpp"
 #include "shortcuts/switching/WorkspaceAppHider.hpp"
 #include "shortcuts/switching/WorkspaceAppSwitchingAdapter.hpp"
-#include "ui/animation/ShortcutAnimationPresenting.hpp"
+#include "ui/UIPlatform.hpp"
+#include "ui/animation/ShortcutAnimationController.hpp"
 
 #include <memory>
 
@@ -28,7 +29,8 @@ namespace quenby {
 
 /// The shortcuts' feature objects: the application catalog and resolver, the Dock's digit
 /// mappings, the user's letter mappings, and switching to or hiding a mapped application.
-/// `base`, `platform`, the reporter and the usage recorder must outlive it.
+/// Every accepted shortcut also plays the shortcut animation, built here from the UI's adapters.
+/// `base`, `platform`, `ui`, the reporter and the usage recorder must outlive it.
 class ShortcutsAssembly {
 public:
   struct Options {
@@ -40,7 +42,7 @@ public:
   /// Reads the stored letter mappings at once; what needs the user goes to
   /// `configurationReporter`.
   ShortcutsAssembly(const BasePlatform& base, const ShortcutsPlatform& platform,
-                    ConfigurationFailureReporting& configurationReporter,
+                    const UIPlatform& ui, ConfigurationFailureReporting& configurationReporter,
                     UsageAnalyticsRecording& usageAnalytics, AppPreferencesProviding& preferences,
                     Options options);
   ShortcutsAssembly(const ShortcutsAssembly&) = delete;
@@ -93,7 +95,7 @@ public:
   [[nodiscard]] AppSwitchFailureHandling& switchFailureHandler() { return failureHandler_; }
   [[nodiscard]] AppHiding& appHider() { return appHider_; }
   /// Played by every accepted digit, letter or HUD shortcut.
-  [[nodiscard]] ShortcutAnimationPresenting& shortcutAnimation() { return *shortcutAnimation_; }
+  [[nodiscard]] ShortcutAnimationPresenting& shortcutAnimation() { return shortcutAnimation_; }
   [[nodiscard]] const FrontmostApplicationProviding& frontmostApplication() const {
     return *frontmostApplication_;
   }
@@ -110,12 +112,12 @@ private:
   AppSwitchCommandQueue switchCommands_;
   WorkspaceAppHider appHider_;
   std::shared_ptr<FrontmostApplicationProviding> frontmostApplication_;
-  std::unique_ptr<ShortcutAnimationPresenting> shortcutAnimation_ =
-      std::make_unique<NoOpShortcutAnimationPresenter>();
+  // Before the animation, which shows its icons.
+  ApplicationIconCache iconCache_;
+  ShortcutAnimationController shortcutAnimation_;
   OptionDigitHotKeyRegistrar optionDigitRegistrar_;
   OptionDigitHotKeyFeatureController optionDigits_;
   WorkspaceRunningApplicationMonitor runningApplications_;
-  ApplicationIconCache iconCache_;
   ObservationToken iconUpdates_;
 };
 

@@ -42,5 +42,6 @@ void registerDataScenarioLines(ScenarioLineRegistry& registry);
 void registerShortcutsScenarioLines(ScenarioLineRegistry& registry);
 void registerSwitchingScenarioLines(ScenarioLineRegistry& registry);
 void registerHUDScenarioLines(ScenarioLineRegistry& registry);
+void registerUIScenarioLines(ScenarioLineRegistry& registry);
 
 } // namespace quenby

@@ -10,7 +10,7 @@ namespace quenby {
 namespace {
 
 /// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{"layout", "reduce-motion", "menu", "alert"};
+constexpr std::array kLaterFeatureLines{"layout", "menu", "alert"};
 
 } // namespace
 
@@ -22,6 +22,7 @@ ScenarioRunner::ScenarioRunner(ScenarioEventSink& sink, std::string scriptDirect
   registerSwitchingScenarioLines(lines_);
   registerDataScenarioLines(lines_);
   registerHUDScenarioLines(lines_);
+  registerUIScenarioLines(lines_);
 }
 
 ScenarioRunner::~ScenarioRunner() = default;

@@ -10,6 +10,8 @@
 #include "simulation/SimulatedMappingEditor.hpp"
 #include "simulation/SimulatedModifierKeyStateReader.hpp"
 #include "simulation/SimulatedSettingsWindow.hpp"
+#include "simulation/SimulatedShortcutAnimationPanel.hpp"
+#include "simulation/SimulatedShortcutAnimationSystem.hpp"
 #include "simulation/SimulatedWindowPlacementSnapshotProvider.hpp"
 #include "simulation/SimulatedWorkspaceAdapters.hpp"
 
@@ -96,6 +98,7 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
   auto eventTap = std::make_shared<SimulatedKeyboardEventTap>(world.keyboard(), recorder);
   auto mouse = std::make_shared<SimulatedMouseMonitors>();
   auto panels = std::make_shared<SimulatedHUDPanelFactory>(recorder, *world.scheduler());
+  auto animationSystem = std::make_shared<SimulatedShortcutAnimationSystem>(world);
   return {
       .services =
           {
@@ -109,7 +112,11 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
                        .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
               .hud = simulatedHud(world, recorder, *eventTap, *mouse, panels),
               .ui = {.settingsWindow = std::make_shared<SimulatedSettingsWindow>(recorder),
-                     .mappingEditor = std::make_shared<SimulatedMappingEditor>(recorder)},
+                     .mappingEditor = std::make_shared<SimulatedMappingEditor>(recorder),
+                     .shortcutAnimationPanels =
+                         std::make_shared<SimulatedShortcutAnimationPanelFactory>(recorder),
+                     .shortcutAnimationScreens = animationSystem,
+                     .shortcutAnimationMotion = animationSystem},
           },
       .hotKeys = hotKeys,
       .eventTap = eventTap,

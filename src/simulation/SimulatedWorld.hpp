@@ -74,6 +74,9 @@ public:
   [[nodiscard]] const std::vector<SimulatedScreen>& screens() const { return screens_; }
   [[nodiscard]] Point& mouse() { return mouse_; }
   [[nodiscard]] Point mouse() const { return mouse_; }
+  /// The system's reduce-motion accessibility setting.
+  [[nodiscard]] bool reducesMotion() const { return reducesMotion_; }
+  void setReducesMotion(bool on) { reducesMotion_ = on; }
   /// The default screen is replaced by the first `screen` line before the first launch.
   [[nodiscard]] bool screensAreDefault() const { return screensAreDefault_; }
   void markScreensCustomised() { screensAreDefault_ = false; }
@@ -99,6 +102,7 @@ private:
   Environment environment_;
   std::vector<SimulatedScreen> screens_;
   Point mouse_{720, 450};
+  bool reducesMotion_ = false;
   bool screensAreDefault_ = true;
 };
 

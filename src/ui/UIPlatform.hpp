@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ui/animation/ShortcutAnimationMotionProviding.hpp"
+#include "ui/animation/ShortcutAnimationPanelCreating.hpp"
+#include "ui/animation/ShortcutAnimationScreenProviding.hpp"
 #include "ui/editor/MappingEditorPresenting.hpp"
 #include "ui/settings/SettingsWindowPresenting.hpp"
 
@@ -11,11 +14,17 @@ namespace quenby {
 struct UIPlatform {
   std::shared_ptr<SettingsWindowPresenting> settingsWindow;
   std::shared_ptr<MappingEditorPresenting> mappingEditor;
+  std::shared_ptr<ShortcutAnimationPanelCreating> shortcutAnimationPanels;
+  std::shared_ptr<ShortcutAnimationScreenProviding> shortcutAnimationScreens;
+  std::shared_ptr<ShortcutAnimationMotionProviding> shortcutAnimationMotion;
 
-  /// Windows that never open.
+  /// Windows that never open and an animation that never shows.
   [[nodiscard]] static UIPlatform inert() {
     return {.settingsWindow = std::make_shared<InertSettingsWindowPresenter>(),
-            .mappingEditor = std::make_shared<InertMappingEditorPresenter>()};
+            .mappingEditor = std::make_shared<InertMappingEditorPresenter>(),
+            .shortcutAnimationPanels = std::make_shared<InertShortcutAnimationPanelFactory>(),
+            .shortcutAnimationScreens = std::make_shared<InertShortcutAnimationScreenProvider>(),
+            .shortcutAnimationMotion = std::make_shared<InertShortcutAnimationMotionProvider>()};
   }
 };
 

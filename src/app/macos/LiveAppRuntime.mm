@@ -10,6 +10,9 @@
 #include "data/usage/macos/SystemUsageCalendar.hpp"
 #include "hud/macos/LiveHUDPlatform.hpp"
 #include "shortcuts/macos/LiveShortcutsPlatform.hpp"
+#include "ui/animation/macos/SystemShortcutAnimationMotionProvider.hpp"
+#include "ui/animation/macos/SystemShortcutAnimationPanelFactory.hpp"
+#include "ui/animation/macos/SystemShortcutAnimationScreenProvider.hpp"
 
 #include <memory>
 #include <utility>
@@ -29,7 +32,11 @@ PlatformServices makeLivePlatformServices() {
                .calendar = std::make_shared<SystemUsageCalendar>()},
       .hud = makeLiveHUDPlatform(),
       // The windows come with their own change; until then Settings and the editor open nothing.
-      .ui = UIPlatform::inert(),
+      .ui = {.settingsWindow = std::make_shared<InertSettingsWindowPresenter>(),
+             .mappingEditor = std::make_shared<InertMappingEditorPresenter>(),
+             .shortcutAnimationPanels = std::make_shared<SystemShortcutAnimationPanelFactory>(),
+             .shortcutAnimationScreens = std::make_shared<SystemShortcutAnimationScreenProvider>(),
+             .shortcutAnimationMotion = std::make_shared<SystemShortcutAnimationMotionProvider>()},
   };
 }
 
