@@ -5,6 +5,7 @@
 #include "shortcuts/running/MainThreadApplicationIconWorkScheduler.hpp"
 #include "simulation/RecordingKeyValueStore.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
+#include "simulation/SimulatedHUDEnableExplainer.hpp"
 #include "simulation/SimulatedLogger.hpp"
 #include "simulation/SimulatedMappingEditor.hpp"
 #include "simulation/SimulatedModifierKeyStateReader.hpp"
@@ -94,13 +95,17 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
   auto eventTap = std::make_shared<SimulatedKeyboardEventTap>(world.keyboard(), recorder);
   auto mouse = std::make_shared<SimulatedMouseMonitors>();
   auto panels = std::make_shared<SimulatedHUDPanelFactory>(recorder, *world.scheduler());
+  auto terminator = std::make_shared<SimulatedApplicationTerminator>();
   return {
       .services =
           {
               .base = simulatedBase(world, recorder),
               .app = {.activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
                       .failurePanelFactory =
-                          std::make_shared<SimulatedFailurePanelFactory>(recorder)},
+                          std::make_shared<SimulatedFailurePanelFactory>(recorder),
+                      .hudEnableExplainer = std::make_shared<SimulatedHUDEnableExplainer>(
+                          world.alertAnswers(), recorder),
+                      .terminator = terminator},
               .shortcuts = simulatedShortcuts(world, recorder, hotKeys),
               .data = {.windowPlacementSnapshotProvider =
                            std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
@@ -113,6 +118,7 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
       .eventTap = eventTap,
       .hudPanels = panels,
       .mouse = mouse,
+      .terminator = terminator,
   };
 }
 
