@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKitDefines.h>
 #import <AppKit/NSAccessibility.h>
+#import <AppKit/NSAlert.h>
 #import <AppKit/NSAnimationContext.h>
 #import <AppKit/NSAppearance.h>
 #import <AppKit/NSApplication.h>
@@ -31,6 +32,9 @@
 #import <AppKit/NSScreen.h>
 #import <AppKit/NSShadow.h>
 #import <AppKit/NSStackView.h>
+#import <AppKit/NSStatusBar.h>
+#import <AppKit/NSStatusBarButton.h>
+#import <AppKit/NSStatusItem.h>
 #import <AppKit/NSStringDrawing.h>
 #import <AppKit/NSText.h>
 #import <AppKit/NSTextField.h>

@@ -12,6 +12,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 APPKIT_EXTERN __kindof NSApplication* _Null_unspecified NSApp;
 
+typedef NSInteger NSModalResponse;
+
 NS_ENUM(NSInteger, NSApplicationActivationPolicy){
     NSApplicationActivationPolicyRegular = 0,
     NSApplicationActivationPolicyAccessory = 1,

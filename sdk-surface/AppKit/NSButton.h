@@ -16,6 +16,8 @@ NS_ASSUME_NONNULL_BEGIN
                          target:(nullable id)target
                          action:(nullable SEL)action;
 @property(getter=isBordered) BOOL bordered;
+@property(nullable, strong) NSImage* image;
+@property(copy) NSString* keyEquivalent;
 @property NSImageScaling imageScaling;
 // macOS 10.14.
 @property(nullable, copy) NSColor* contentTintColor;

@@ -35,6 +35,14 @@ NS_ENUM(NSUInteger, NSImageScaling){
 
 @interface NSImage : NSObject <NSCopying>
 - (instancetype)initWithSize:(NSSize)size;
+// macOS 10.8: the handler draws the image on demand, once per representation AppKit needs.
++ (NSImage*)imageWithSize:(NSSize)size
+                  flipped:(BOOL)drawingHandlerShouldBeCalledWithFlippedContext
+           drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler;
+// A template's colour is ignored: only its alpha is used, tinted by where it is shown.
+// Accessors only: `template` is a keyword in Objective-C++, so no property by that name.
+- (void)setTemplate:(BOOL)isTemplate;
+- (BOOL)isTemplate;
 - (nullable instancetype)initWithContentsOfFile:(NSString*)fileName;
 // The representation best suited to drawing into `rect` of `referenceContext` (the current
 // context when nil).

@@ -12,6 +12,8 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSMenu : NSObject
 - (instancetype)initWithTitle:(NSString*)title;
 - (void)addItem:(NSMenuItem*)newItem;
+// When NO, each item's own `enabled` decides; when YES (the default) AppKit validates items.
+@property BOOL autoenablesItems;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -16,6 +16,9 @@ NS_ASSUME_NONNULL_BEGIN
                        action:(nullable SEL)selector
                 keyEquivalent:(NSString*)charCode;
 @property(nullable, weak) id target;
+@property(nullable) SEL action;
+@property(getter=isEnabled) BOOL enabled;
+@property(nullable, strong) id representedObject;
 @property NSEventModifierFlags keyEquivalentModifierMask;
 @property(nullable, strong) NSMenu* submenu;
 @end

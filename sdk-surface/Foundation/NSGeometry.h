@@ -35,6 +35,18 @@ static inline NSSize NSMakeSize(CGFloat w, CGFloat h) {
   return s;
 }
 
+static inline NSPoint NSMakePoint(CGFloat x, CGFloat y) {
+  NSPoint p;
+  p.x = x;
+  p.y = y;
+  return p;
+}
+
+static inline CGFloat NSMaxX(NSRect aRect) { return aRect.origin.x + aRect.size.width; }
+static inline CGFloat NSMaxY(NSRect aRect) { return aRect.origin.y + aRect.size.height; }
+static inline CGFloat NSMidX(NSRect aRect) { return aRect.origin.x + aRect.size.width * 0.5; }
+static inline CGFloat NSMidY(NSRect aRect) { return aRect.origin.y + aRect.size.height * 0.5; }
+
 FOUNDATION_EXPORT const NSRect NSZeroRect;
 
 static inline NSEdgeInsets NSEdgeInsetsMake(CGFloat top, CGFloat left, CGFloat bottom,

@@ -2,6 +2,8 @@
 
 namespace quenby {
 
+class MenuBarExtraStore;
+
 /// What the application delegate needs of the coordinator.
 class AppCoordinating {
 public:
@@ -9,6 +11,9 @@ public:
   virtual void start() = 0;
   virtual void stop() = 0;
   virtual void showSettings() = 0;
+  /// What the status item shows and where it sends commands; null when there is none, and
+  /// once stopped.
+  [[nodiscard]] virtual MenuBarExtraStore* menuBarExtra() = 0;
 };
 
 } // namespace quenby

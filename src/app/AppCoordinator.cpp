@@ -6,9 +6,10 @@ namespace quenby {
 
 AppCoordinator::AppCoordinator(AppRuntimeConfiguration configuration,
                                AppCoordinatorLifecycle lifecycle,
-                               std::shared_ptr<void> retainedRuntime)
+                               std::shared_ptr<void> retainedRuntime,
+                               MenuBarExtraStore* menuBarExtra)
     : lifecycle_(std::move(lifecycle)), retainedRuntime_(std::move(retainedRuntime)),
-      configuration_(configuration) {}
+      menuBarExtra_(menuBarExtra), configuration_(configuration) {}
 
 // The closures point into the runtime: drop them before the graph they reference.
 AppCoordinator::~AppCoordinator() { lifecycle_.reset(); }

@@ -15,9 +15,10 @@ class AppCoordinator final : public AppCoordinating {
 public:
   enum class State { initialized = 0, running = 1, stopped = 2 };
 
-  /// `retainedRuntime` keeps the object graph that `lifecycle` closes over alive until `stop`.
+  /// `retainedRuntime` keeps the object graph that `lifecycle` closes over alive until `stop`;
+  /// `menuBarExtra`, when given, lives in that graph.
   AppCoordinator(AppRuntimeConfiguration configuration, AppCoordinatorLifecycle lifecycle,
-                 std::shared_ptr<void> retainedRuntime);
+                 std::shared_ptr<void> retainedRuntime, MenuBarExtraStore* menuBarExtra = nullptr);
   AppCoordinator(const AppCoordinator&) = delete;
   AppCoordinator& operator=(const AppCoordinator&) = delete;
   ~AppCoordinator() override;
@@ -26,6 +27,9 @@ public:
   /// Stops every feature, then frees the whole object graph.
   void stop() override;
   void showSettings() override;
+  [[nodiscard]] MenuBarExtraStore* menuBarExtra() override {
+    return retainedRuntime_ ? menuBarExtra_ : nullptr;
+  }
 
   [[nodiscard]] State state() const { return state_; }
   [[nodiscard]] static const char* stateName(State state);
@@ -34,6 +38,7 @@ public:
 private:
   std::optional<AppCoordinatorLifecycle> lifecycle_;
   std::shared_ptr<void> retainedRuntime_;
+  MenuBarExtraStore* menuBarExtra_;
   State state_ = State::initialized;
   AppRuntimeConfiguration configuration_;
 };

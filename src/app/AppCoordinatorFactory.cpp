@@ -13,7 +13,9 @@ std::unique_ptr<AppCoordinator> makeAppCoordinator(PlatformServices services,
     *runtime = graph;
   }
   AppCoordinatorLifecycle lifecycle = graph->lifecycle();
-  return std::make_unique<AppCoordinator>(configuration, std::move(lifecycle), std::move(graph));
+  MenuBarExtraStore* menuBarExtra = &graph->menuBar().store();
+  return std::make_unique<AppCoordinator>(configuration, std::move(lifecycle), std::move(graph),
+                                          menuBarExtra);
 }
 
 } // namespace quenby

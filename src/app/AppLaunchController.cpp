@@ -18,8 +18,9 @@ void AppLaunchController::applicationDidFinishLaunching() {
   }
   coordinator_ = makeCoordinator_();
   coordinator_->start();
-  if (launchContext_.includesMenuBarExtra) {
-    statusItemPresenter_ = makeStatusItemPresenter_();
+  MenuBarExtraStore* store = coordinator_->menuBarExtra();
+  if (launchContext_.includesMenuBarExtra && store != nullptr) {
+    statusItemPresenter_ = makeStatusItemPresenter_(*store);
     statusItemPresenter_->install();
   }
 }

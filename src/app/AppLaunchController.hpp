@@ -3,6 +3,7 @@
 #include "app/AppCoordinating.hpp"
 #include "app/AppLaunchContext.hpp"
 #include "app/StatusItemPresenting.hpp"
+#include "app/menu/MenuBarExtraStore.hpp"
 
 #include <functional>
 #include <memory>
@@ -10,12 +11,14 @@
 namespace quenby {
 
 /// The application delegate's decisions, kept out of the platform's delegate class so that they
-/// run under test: one coordinator per process, the status item only outside a test host, and an
-/// orderly teardown.
+/// run under test: one coordinator per process, the status item only outside a test host and only
+/// over a coordinator that has a menu to show, and an orderly teardown.
 class AppLaunchController {
 public:
   using CoordinatorFactory = std::function<std::unique_ptr<AppCoordinating>()>;
-  using StatusItemFactory = std::function<std::unique_ptr<StatusItemPresenting>()>;
+  /// Given the store the status item shows; the item is removed before the store goes.
+  using StatusItemFactory =
+      std::function<std::unique_ptr<StatusItemPresenting>(MenuBarExtraStore& store)>;
 
   AppLaunchController(AppLaunchContext launchContext, CoordinatorFactory makeCoordinator,
                       StatusItemFactory makeStatusItemPresenter);

@@ -12,6 +12,8 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_,
            shell_.configurationReporter()),
+      menuBar_(platform_.base, platform_.app, shell_, data_, shortcuts_, hud_,
+               [this] { platform_.ui.settingsWindow->show(); }),
       lifecycle_(makeLifecycle()) {
   hud_.controller().setSettingsOpener([this] { platform_.ui.settingsWindow->show(); });
   hud_.controller().setLetterEditorOpener(
@@ -33,6 +35,7 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.startRunningApplications = [this] { shortcuts_.startRunningApplications(); };
   lifecycle.startOptionDigits = [this] { shortcuts_.startOptionDigits(); };
   lifecycle.restoreHUD = [this] { hud_.restoreHUD(); };
+  lifecycle.synchronizeMenu = [this] { menuBar_.synchronizeMenu(); };
   lifecycle.showSettings = [this] { platform_.ui.settingsWindow->show(); };
   lifecycle.hideHUD = [this] { hud_.hideHUD(); };
   lifecycle.closeMappingEditor = [this] { platform_.ui.mappingEditor->close(); };
@@ -45,6 +48,7 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.stopCatalogMonitoring = [this] { shortcuts_.stopCatalogMonitoring(); };
   lifecycle.stopMappings = [this] { shortcuts_.stopMappings(); };
   lifecycle.stopDock = [this] { shortcuts_.stopDock(); };
+  lifecycle.stopMenu = [this] { menuBar_.stopMenu(); };
   return lifecycle;
 }
 

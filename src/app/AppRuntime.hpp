@@ -4,6 +4,7 @@
 #include "app/AppRuntimeConfiguration.hpp"
 #include "app/AppShellAssembly.hpp"
 #include "app/PlatformServices.hpp"
+#include "app/menu/MenuBarAssembly.hpp"
 #include "data/DataAssembly.hpp"
 #include "data/usage/UsageAnalyticsRecording.hpp"
 #include "hud/HUDAssembly.hpp"
@@ -27,6 +28,7 @@ public:
   [[nodiscard]] ShortcutsAssembly& shortcuts() { return shortcuts_; }
   [[nodiscard]] DataAssembly& data() { return data_; }
   [[nodiscard]] HUDAssembly& hud() { return hud_; }
+  [[nodiscard]] MenuBarAssembly& menuBar() { return menuBar_; }
 
 private:
   AppCoordinatorLifecycle makeLifecycle();
@@ -38,6 +40,8 @@ private:
   ShortcutsAssembly shortcuts_;
   // After the shortcuts: the HUD shows their mappings and switches through them.
   HUDAssembly hud_;
+  // Last: the menu reports on every feature above.
+  MenuBarAssembly menuBar_;
   AppCoordinatorLifecycle lifecycle_;
 };
 

@@ -9,9 +9,7 @@ template <typename T> void ShortcutDiagnostics::update(T& field, T value) {
     return;
   }
   field = std::move(value);
-  if (onChange_) {
-    onChange_();
-  }
+  observers_.notify();
 }
 
 void ShortcutDiagnostics::setAutomaticWarning(std::optional<std::string> warning) {

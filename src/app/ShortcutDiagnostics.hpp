@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ObservationToken.hpp"
+#include "base/ObserverList.hpp"
 #include "data/AppPreferences.hpp"
 
 #include <functional>
@@ -27,9 +29,11 @@ public:
   ShortcutDiagnostics(const ShortcutDiagnostics&) = delete;
   ShortcutDiagnostics& operator=(const ShortcutDiagnostics&) = delete;
 
-  /// Called after any value below changes (and so whenever `hasIssue()` flips); never for a
-  /// setter that leaves everything as it was.
-  void setOnChange(std::function<void()> onChange) { onChange_ = std::move(onChange); }
+  /// `handler` runs after any value below changes (and so whenever `hasIssue()` flips), for as
+  /// long as the token is held; never for a setter that leaves everything as it was.
+  [[nodiscard]] ObservationToken observeChanges(std::function<void()> handler) {
+    return observers_.add(std::move(handler));
+  }
 
   [[nodiscard]] bool hasIssue() const {
     return automaticWarning_.has_value() || manualConflict_.has_value();
@@ -64,7 +68,7 @@ public:
 private:
   template <typename T> void update(T& field, T value);
 
-  std::function<void()> onChange_;
+  ObserverList<> observers_;
   std::optional<std::string> automaticWarning_;
   std::optional<ShortcutManualConflict> manualConflict_;
   std::optional<ActivationModifierPreference> testedModifier_;

@@ -87,6 +87,7 @@ public:
   [[nodiscard]] const OptionDigitHotKeyFeatureController& optionDigits() const {
     return optionDigits_;
   }
+  [[nodiscard]] OptionDigitHotKeyFeatureController& optionDigits() { return optionDigits_; }
   [[nodiscard]] ApplicationIconCache& icons() { return iconCache_; }
   [[nodiscard]] WorkspaceRunningApplicationMonitor& runningApplications() {
     return runningApplications_;

@@ -1,9 +1,12 @@
-// The process and the world it starts in: user defaults, the environment, time, launch and quit.
+// The process and the world it starts in: user defaults, the environment, time, launch and quit;
+// the menu bar's menu and the alerts it raises.
 
+#include "app/AppRuntime.hpp"
 #include "simulation/ScenarioArguments.hpp"
 #include "simulation/ScenarioLineRegistry.hpp"
 
 #include <chrono>
+#include <utility>
 
 namespace quenby {
 namespace {
@@ -38,6 +41,39 @@ void waitLine(ScenarioContext& context, const Arguments& arguments) {
   context.world().scheduler()->advanceBy(std::chrono::milliseconds(milliseconds));
 }
 
+void menuLine(ScenarioContext& context, const Arguments& arguments) {
+  constexpr const char* usage = "menu toggle-hud|retry-hud|retry-digits|open-accessibility|"
+                                "open-input-monitoring|settings|quit";
+  expectArgumentCount(arguments, 2, 2, usage);
+  static constexpr std::pair<std::string_view, MenuBarCommand> kCommands[] = {
+      {"toggle-hud", MenuBarCommand::toggleHUD()},
+      {"retry-hud", MenuBarCommand::retryHUD()},
+      {"retry-digits", MenuBarCommand::retryOptionDigits()},
+      {"open-accessibility",
+       MenuBarCommand::openPermissionSettings(EventTapPermissionKind::accessibility)},
+      {"open-input-monitoring",
+       MenuBarCommand::openPermissionSettings(EventTapPermissionKind::inputMonitoring)},
+      {"settings", MenuBarCommand::showSettings()},
+      {"quit", MenuBarCommand::quit()},
+  };
+  for (const auto& [name, command] : kCommands) {
+    if (arguments[1] == name) {
+      context.requireRuntime("menu")->menuBar().store().perform(command);
+      return;
+    }
+  }
+  throw ScenarioLineError{"\"" + arguments[1] + "\" is not a menu command: " + usage};
+}
+
+void alertLine(ScenarioContext& context, const Arguments& arguments) {
+  constexpr const char* usage = "alert continue|cancel";
+  expectArgumentCount(arguments, 2, 2, usage);
+  if (arguments[1] != "continue" && arguments[1] != "cancel") {
+    throw ScenarioLineError{"expected continue or cancel: " + std::string(usage)};
+  }
+  context.world().alertAnswers().push_back(arguments[1] == "continue");
+}
+
 } // namespace
 
 void registerAppShellScenarioLines(ScenarioLineRegistry& registry) {
@@ -55,6 +91,8 @@ void registerAppShellScenarioLines(ScenarioLineRegistry& registry) {
     expectArgumentCount(arguments, 1, 1, "terminate");
     context.terminate();
   });
+  registry.addLine("menu", menuLine);
+  registry.addLine("alert", alertLine);
   registry.addStateFields(
       [](const ScenarioContext& context, AppRuntime*, nlohmann::ordered_json& fields) {
         fields["coordinator"] = context.coordinatorState();

@@ -166,6 +166,22 @@ std::string NarratingEventWriter::sentence(const ScenarioEvent& event) {
                                                                      : "Input Monitoring") +
            " access.";
   }
+  if (name == "menu") {
+    std::string items;
+    const auto found = event.fields.find("items");
+    if (found != event.fields.end() && found->is_array()) {
+      for (const auto& item : *found) {
+        items.append(kIndent).append("  ").append(text(item) == "-" ? "――――" : text(item));
+      }
+    }
+    return std::string(field(event, "icon") == "attention" ? "The menu bar icon asks for attention"
+                                                           : "The menu bar icon looks normal") +
+           " (\"" + field(event, "label") + "\"); its menu reads:" + items;
+  }
+  if (name == "alert") {
+    return "An alert asked \"" + field(event, "message") + "\"; the user chose " +
+           (field(event, "answer") == "continue" ? "Continue." : "Cancel.");
+  }
   if (name == "open-url") {
     return "Opened " + field(event, "url") + ".";
   }

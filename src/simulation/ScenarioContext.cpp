@@ -4,6 +4,7 @@
 #include "app/AppLaunchController.hpp"
 #include "simulation/ScenarioArguments.hpp"
 #include "simulation/SimulatedPlatform.hpp"
+#include "simulation/SimulatedStatusItemPresenter.hpp"
 
 namespace quenby {
 
@@ -25,11 +26,14 @@ void ScenarioContext::launch() {
         eventTap_ = process.eventTap;
         hudPanels_ = process.hudPanels;
         mouse_ = process.mouse;
+        terminator_ = process.terminator;
         auto coordinator = makeAppCoordinator(std::move(process.services), environment, &runtime_);
         coordinator_ = coordinator.get();
         return coordinator;
       },
-      [] { return std::make_unique<InertStatusItemPresenter>(); });
+      [this](MenuBarExtraStore& store) {
+        return std::make_unique<SimulatedStatusItemPresenter>(store, recorder_);
+      });
   hasTerminated_ = false;
   application_->applicationDidFinishLaunching();
   // Registration passes made while starting are told before launching is.
@@ -52,9 +56,16 @@ void ScenarioContext::terminate() {
   eventTap_.reset();
   hudPanels_.reset();
   mouse_.reset();
+  terminator_.reset();
   coordinator_ = nullptr;
   hasTerminated_ = true;
   recorder_.emit("terminated");
+}
+
+void ScenarioContext::finishLine() {
+  if (terminator_ && terminator_->isRequested()) {
+    terminate();
+  }
 }
 
 std::string_view ScenarioContext::coordinatorState() const {

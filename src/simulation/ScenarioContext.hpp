@@ -2,6 +2,7 @@
 
 #include "base/FileURL.hpp"
 #include "simulation/ScenarioEventRecorder.hpp"
+#include "simulation/SimulatedApplicationTerminator.hpp"
 #include "simulation/SimulatedHUDPanel.hpp"
 #include "simulation/SimulatedHotKeyBackend.hpp"
 #include "simulation/SimulatedKeyboardEventTap.hpp"
@@ -36,6 +37,8 @@ public:
   void launch();
   /// Quits the running application; nothing happens when none runs.
   void terminate();
+  /// Quits the running application if it asked to during the line just run.
+  void finishLine();
   [[nodiscard]] bool isLaunched() const { return application_ != nullptr; }
   /// "notLaunched", the coordinator's state, or "stopped" once a process has ended.
   [[nodiscard]] std::string_view coordinatorState() const;
@@ -71,6 +74,7 @@ private:
   std::shared_ptr<SimulatedKeyboardEventTap> eventTap_;
   std::shared_ptr<SimulatedHUDPanelFactory> hudPanels_;
   std::shared_ptr<SimulatedMouseMonitors> mouse_;
+  std::shared_ptr<SimulatedApplicationTerminator> terminator_;
   bool hasTerminated_ = false;
 };
 

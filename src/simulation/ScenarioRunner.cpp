@@ -10,7 +10,7 @@ namespace quenby {
 namespace {
 
 /// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{"layout", "menu", "alert"};
+constexpr std::array kLaterFeatureLines{"layout"};
 
 } // namespace
 
@@ -51,6 +51,7 @@ int ScenarioRunner::run(std::istream& script) {
       runLine(*arguments);
       // Work the program handed to the main queue runs before the next line.
       context_.world().scheduler()->runPending();
+      context_.finishLine();
     } catch (const ScenarioLineError& failure) {
       error_ = "line " + std::to_string(number) + ": " + failure.message;
       return 2;

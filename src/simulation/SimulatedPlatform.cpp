@@ -5,6 +5,7 @@
 #include "shortcuts/running/MainThreadApplicationIconWorkScheduler.hpp"
 #include "simulation/RecordingKeyValueStore.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
+#include "simulation/SimulatedHUDEnableExplainer.hpp"
 #include "simulation/SimulatedKeyboardAccessProbe.hpp"
 #include "simulation/SimulatedLogger.hpp"
 #include "simulation/SimulatedMappingEditor.hpp"
@@ -99,13 +100,17 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
   auto mouse = std::make_shared<SimulatedMouseMonitors>();
   auto panels = std::make_shared<SimulatedHUDPanelFactory>(recorder, *world.scheduler());
   auto animationSystem = std::make_shared<SimulatedShortcutAnimationSystem>(world);
+  auto terminator = std::make_shared<SimulatedApplicationTerminator>();
   return {
       .services =
           {
               .base = simulatedBase(world, recorder),
               .app = {.activationPolicy = std::make_shared<InertApplicationActivationPolicy>(),
                       .failurePanelFactory =
-                          std::make_shared<SimulatedFailurePanelFactory>(recorder)},
+                          std::make_shared<SimulatedFailurePanelFactory>(recorder),
+                      .hudEnableExplainer = std::make_shared<SimulatedHUDEnableExplainer>(
+                          world.alertAnswers(), recorder),
+                      .terminator = terminator},
               .shortcuts = simulatedShortcuts(world, recorder, hotKeys),
               .data = {.windowPlacementSnapshotProvider =
                            std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
@@ -122,6 +127,7 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
       .eventTap = eventTap,
       .hudPanels = panels,
       .mouse = mouse,
+      .terminator = terminator,
   };
 }
 

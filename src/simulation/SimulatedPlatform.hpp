@@ -2,6 +2,7 @@
 
 #include "app/PlatformServices.hpp"
 #include "simulation/ScenarioEventRecorder.hpp"
+#include "simulation/SimulatedApplicationTerminator.hpp"
 #include "simulation/SimulatedHUDPanel.hpp"
 #include "simulation/SimulatedHotKeyBackend.hpp"
 #include "simulation/SimulatedKeyboardEventTap.hpp"
@@ -11,13 +12,14 @@
 namespace quenby {
 
 /// One simulated process: its adapters, and the system pieces the script acts through: the hot
-/// keys, the keyboard tap, the HUD's panel and the mouse monitors.
+/// keys, the keyboard tap, the HUD's panel, the mouse monitors and its own request to quit.
 struct SimulatedProcess {
   PlatformServices services;
   std::shared_ptr<SimulatedHotKeyBackend> hotKeys;
   std::shared_ptr<SimulatedKeyboardEventTap> eventTap;
   std::shared_ptr<SimulatedHUDPanelFactory> hudPanels;
   std::shared_ptr<SimulatedMouseMonitors> mouse;
+  std::shared_ptr<SimulatedApplicationTerminator> terminator;
 };
 
 /// The adapters of one simulated process, over the world that outlives it. `world` and

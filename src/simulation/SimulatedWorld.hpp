@@ -16,6 +16,7 @@
 #include "simulation/SimulatedWorkspace.hpp"
 #include "simulation/TemporaryDirectory.hpp"
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -70,6 +71,8 @@ public:
   [[nodiscard]] SimulatedKeyboard& keyboard() { return keyboard_; }
 
   [[nodiscard]] Environment& environment() { return environment_; }
+  /// The user's answers to the coming alerts, oldest first: true continues, false cancels.
+  [[nodiscard]] std::deque<bool>& alertAnswers() { return alertAnswers_; }
   [[nodiscard]] std::vector<SimulatedScreen>& screens() { return screens_; }
   [[nodiscard]] const std::vector<SimulatedScreen>& screens() const { return screens_; }
   [[nodiscard]] Point& mouse() { return mouse_; }
@@ -100,6 +103,7 @@ private:
   SimulatedHotKeys hotKeys_;
   SimulatedKeyboard keyboard_;
   Environment environment_;
+  std::deque<bool> alertAnswers_;
   std::vector<SimulatedScreen> screens_;
   Point mouse_{720, 450};
   bool reducesMotion_ = false;

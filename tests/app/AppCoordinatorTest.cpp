@@ -146,6 +146,8 @@ struct FakeCoordinator final : AppCoordinating {
   void start() override { calls.push_back("start"); }
   void stop() override { calls.push_back("stop"); }
   void showSettings() override { calls.push_back("showSettings"); }
+  MenuBarExtraStore* menuBarExtra() override { return &store; }
+  MenuBarExtraStore store;
 };
 
 struct FakeStatusItem final : StatusItemPresenting {
@@ -162,7 +164,7 @@ AppLaunchController makeController(std::vector<std::string>& calls, AppLaunchCon
         calls.push_back("make coordinator");
         return std::make_unique<FakeCoordinator>(calls);
       },
-      [&calls] { return std::make_unique<FakeStatusItem>(calls); });
+      [&calls](MenuBarExtraStore&) { return std::make_unique<FakeStatusItem>(calls); });
 }
 
 TEST(AppLaunchControllerTest, LaunchesOnceAndTearsDownStatusItemBeforeCoordinator) {

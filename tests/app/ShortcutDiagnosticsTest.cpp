@@ -10,7 +10,7 @@ namespace {
 TEST(ShortcutDiagnosticsTest, NotifiesOnlyWhenSomethingChanges) {
   ShortcutDiagnostics diagnostics;
   int changes = 0;
-  diagnostics.setOnChange([&] { ++changes; });
+  const auto token = diagnostics.observeChanges([&] { ++changes; });
   EXPECT_FALSE(diagnostics.hasIssue());
 
   diagnostics.setAutomaticWarning("Option-1 is taken by another app.");

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "app/menu/MenuBarTexts.hpp"
 #include "base/Localizer.hpp"
 
 namespace quenby {
-
-inline constexpr LocalizedText kMenuSettingsText{"menu.settings", "Settings",
-                                                 "App menu item that opens the Settings window."};
 
 inline constexpr LocalizedText kApplicationMenuQuitText{
     "menu.application.quit", "Quit Quenby",

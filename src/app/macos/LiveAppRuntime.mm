@@ -4,6 +4,8 @@
 #include "app/macos/LiveAppRuntime.hpp"
 
 #include "app/macos/AccessoryActivationPolicy.hpp"
+#include "app/macos/AlertHUDEnableExplainer.hpp"
+#include "app/macos/SystemApplicationTerminator.hpp"
 #include "app/macos/SystemConfigurationFailurePanelFactory.hpp"
 #include "base/macos/LiveBasePlatform.hpp"
 #include "data/macos/SystemWindowPlacementSnapshotProvider.hpp"
@@ -25,7 +27,9 @@ PlatformServices makeLivePlatformServices() {
   return {
       .base = std::move(base),
       .app = {.activationPolicy = std::make_shared<AccessoryActivationPolicy>(),
-              .failurePanelFactory = std::make_shared<SystemConfigurationFailurePanelFactory>()},
+              .failurePanelFactory = std::make_shared<SystemConfigurationFailurePanelFactory>(),
+              .hudEnableExplainer = std::make_shared<AlertHUDEnableExplainer>(),
+              .terminator = std::make_shared<SystemApplicationTerminator>()},
       .shortcuts = std::move(shortcuts),
       .data = {.windowPlacementSnapshotProvider =
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),

@@ -8,8 +8,8 @@
 
 #include "app/AppCoordinatorFactory.hpp"
 #include "app/AppLaunchController.hpp"
-#include "app/StatusItemPresenting.hpp"
 #include "app/macos/LiveAppRuntime.hpp"
+#include "app/macos/MenuBarStatusItemPresenter.hpp"
 #include "base/Environment.hpp"
 #import "base/macos/FoundationPropertyList.h"
 
@@ -54,7 +54,9 @@ quenby::Environment processEnvironment() {
       [environment = std::move(environment)] {
         return quenby::makeAppCoordinator(quenby::makeLivePlatformServices(), environment);
       },
-      [] { return std::make_unique<quenby::InertStatusItemPresenter>(); });
+      [](quenby::MenuBarExtraStore& store) {
+        return std::make_unique<quenby::MenuBarStatusItemPresenter>(store);
+      });
   return self;
 }
 

@@ -44,6 +44,8 @@ public:
   void stop();
 
   [[nodiscard]] const HUDHealth& health() const { return health_; }
+  /// The user's switch, which stays on while permissions or a tap failure keep the HUD off.
+  [[nodiscard]] bool isEnabled() const { return preferences_.isEnabled(); }
   [[nodiscard]] bool isPolling() const { return !pollToken_.isCancelled(); }
   [[nodiscard]] const std::optional<HUDTapFailure>& latchedTapFailure() const {
     return latchedTapFailure_;

@@ -24,6 +24,14 @@ void OptionDigitHotKeyFeatureController::start() {
   registerForCurrentModifier();
 }
 
+void OptionDigitHotKeyFeatureController::retry() {
+  if (!preferenceObservation_) {
+    start();
+    return;
+  }
+  registerForCurrentModifier();
+}
+
 void OptionDigitHotKeyFeatureController::stop() {
   if (!preferenceObservation_) {
     return;

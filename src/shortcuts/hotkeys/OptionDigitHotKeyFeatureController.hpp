@@ -29,6 +29,9 @@ public:
 
   /// Registers for the current modifier and follows its changes. Idempotent.
   void start();
+  /// Registers again for the current modifier, as after the user freed a taken combination;
+  /// starts when stopped.
+  void retry();
   /// Unregisters everything and stops following the preference; health returns to `notStarted`.
   /// Does nothing when stopped.
   void stop();

@@ -1,0 +1,106 @@
+#include "app/menu/MenuBarController.hpp"
+
+#include "app/menu/MenuBarTexts.hpp"
+
+#include <utility>
+
+namespace quenby {
+
+MenuBarController::MenuBarController(Collaborators collaborators) : c_(std::move(collaborators)) {}
+
+MenuBarController::~MenuBarController() { stop(); }
+
+void MenuBarController::start() {
+  if (!isStopped_) {
+    return;
+  }
+  isStopped_ = false;
+  healthObservation_ = c_.feature.observeHealth([this] { synchronize(); });
+  c_.optionDigits.setOnHealthChanged([this](const OptionDigitHotKeyHealth&) { synchronize(); });
+  preferenceObservation_ = c_.preferences.observe([this](AppPreferenceChange change) {
+    if (change.property == AppPreferenceProperty::activationModifier) {
+      synchronize();
+    }
+  });
+  diagnosticsObservation_ = c_.diagnostics.observeChanges([this] { synchronize(); });
+  c_.presentationPublisher.setCommandHandler(
+      [this](const MenuBarCommand& command) { perform(command); });
+  synchronize();
+}
+
+void MenuBarController::stop() {
+  if (isStopped_) {
+    return;
+  }
+  isStopped_ = true;
+  healthObservation_.cancel();
+  c_.optionDigits.setOnHealthChanged(nullptr);
+  preferenceObservation_.cancel();
+  diagnosticsObservation_.cancel();
+  c_.presentationPublisher.setCommandHandler(nullptr);
+}
+
+void MenuBarController::perform(const MenuBarCommand& command) {
+  if (isStopped_) {
+    return;
+  }
+  switch (command.kind) {
+  case MenuBarCommand::Kind::openPermissionSettings:
+    c_.permission.openSettings(command.permission);
+    break;
+  case MenuBarCommand::Kind::toggleHUD:
+    toggleHUD();
+    break;
+  case MenuBarCommand::Kind::retryHUD:
+    c_.feature.retry();
+    break;
+  case MenuBarCommand::Kind::retryOptionDigits:
+    c_.optionDigits.retry();
+    break;
+  case MenuBarCommand::Kind::showSettings:
+    c_.showSettings();
+    break;
+  case MenuBarCommand::Kind::quit:
+    c_.terminateApplication();
+    return;
+  }
+  // The HUD switch is read, not observed: a command is the only thing here that changes it
+  // without also changing the HUD's health.
+  synchronize();
+}
+
+void MenuBarController::toggleHUD() {
+  if (c_.feature.isEnabled()) {
+    c_.feature.disable();
+    return;
+  }
+  const Localizer& localizer = c_.localizer;
+  const HUDEnableExplanation explanation{
+      .message = localizer.localized(kEnableHUDAlertMessageText),
+      .informativeText = localizer.localized(kEnableHUDAlertInformativeText),
+      .continueTitle = localizer.localized(kEnableHUDAlertContinueText),
+      .cancelTitle = localizer.localized(kEnableHUDAlertCancelText)};
+  if (c_.enableExplainer.confirmEnable(explanation)) {
+    c_.feature.enable();
+  }
+}
+
+void MenuBarController::synchronize() {
+  if (isStopped_) {
+    return;
+  }
+  health_ = {.hud = c_.feature.health(), .optionDigits = c_.optionDigits.health()};
+  auto presentation =
+      MenuBarPresentation::make({.health = health_,
+                                 .isHUDEnabled = c_.feature.isEnabled(),
+                                 .modifier = c_.preferences.activationModifier(),
+                                 .diagnosticsReportIssue = c_.diagnostics.hasIssue()},
+                                c_.localizer);
+  if (presentation == presentation_) {
+    return;
+  }
+  presentation_ = std::move(presentation);
+  c_.presentationPublisher.publish(presentation_);
+}
+
+} // namespace quenby

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/menu/MenuBarCommand.hpp"
+#include "app/menu/MenuBarPresentation.hpp"
+#include "base/ObservationToken.hpp"
+#include "base/ObserverList.hpp"
+
+#include <functional>
+
+namespace quenby {
+
+/// Where the menu bar's presentation is published and where the status item sends the chosen
+/// commands: the meeting point of the controller, which computes, and the presenter, which
+/// shows. One per runtime. Main thread only.
+class MenuBarExtraStore {
+public:
+  using CommandHandler = std::function<void(const MenuBarCommand&)>;
+
+  [[nodiscard]] const MenuBarPresentation& presentation() const { return presentation_; }
+  /// Tells every observer; the caller publishes only what changed.
+  void publish(MenuBarPresentation presentation) {
+    presentation_ = std::move(presentation);
+    observers_.notify();
+  }
+  /// `handler` runs after each publication, for as long as the token is held.
+  [[nodiscard]] ObservationToken observePresentation(std::function<void()> handler) {
+    return observers_.add(std::move(handler));
+  }
+
+  void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
+  /// A chosen item's command; nothing happens while no handler is set.
+  void perform(const MenuBarCommand& command) const {
+    if (commandHandler_) {
+      commandHandler_(command);
+    }
+  }
+
+private:
+  MenuBarPresentation presentation_;
+  ObserverList<> observers_;
+  CommandHandler commandHandler_;
+};
+
+} // namespace quenby

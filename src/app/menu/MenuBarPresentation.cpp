@@ -1,0 +1,145 @@
+#include "app/menu/MenuBarPresentation.hpp"
+
+#include "app/menu/MenuBarTexts.hpp"
+#include "base/StringFormatter.hpp"
+
+namespace quenby {
+namespace {
+
+using Item = MenuBarItemPresentation;
+using HUDKind = HUDHealth::Kind;
+using DigitKind = OptionDigitHotKeyHealth::Kind;
+
+const LocalizedText& permissionName(EventTapPermissionKind kind) {
+  return kind == EventTapPermissionKind::accessibility ? kMenuAccessibilityPermissionText
+                                                       : kMenuInputMonitoringPermissionText;
+}
+
+const LocalizedText& hudStatusText(HUDKind kind) {
+  switch (kind) {
+  case HUDKind::needsPermission:
+    return kMenuHUDPermissionRequiredText;
+  case HUDKind::tapFailure:
+    return kMenuHUDEventTapFailedText;
+  case HUDKind::disabled:
+    return kMenuHUDDisabledText;
+  case HUDKind::ready:
+    break;
+  }
+  return kMenuHUDReadyText;
+}
+
+const LocalizedText& digitStatusText(DigitKind kind) {
+  switch (kind) {
+  case DigitKind::registrationFailed:
+    return kMenuDigitRegistrationFailedText;
+  case DigitKind::ready:
+    return kMenuDigitReadyText;
+  case DigitKind::notStarted:
+    break;
+  }
+  return kMenuDigitNotStartedText;
+}
+
+class ItemsBuilder {
+public:
+  ItemsBuilder(const MenuBarPresentationInputs& inputs, const Localizer& localizer)
+      : inputs_(inputs), localizer_(localizer) {}
+
+  std::vector<Item> build() {
+    addHUDStatus();
+    addDigitStatus();
+    addHUDActions();
+    addDigitActions();
+    items_.push_back(Item::separator());
+    items_.push_back(Item::action(text(kMenuSettingsText), MenuBarCommand::showSettings()));
+    items_.push_back(Item::separator());
+    items_.push_back(Item::action(text(kMenuQuitText), MenuBarCommand::quit()));
+    return std::move(items_);
+  }
+
+private:
+  [[nodiscard]] std::string text(const LocalizedText& localized) const {
+    return localizer_.localized(localized);
+  }
+  [[nodiscard]] const HUDHealth& hud() const { return inputs_.health.hud; }
+  [[nodiscard]] const OptionDigitHotKeyHealth& digits() const {
+    return inputs_.health.optionDigits;
+  }
+
+  void addHUDStatus() {
+    items_.push_back(Item::status(text(hudStatusText(hud().kind))));
+    if (hud().kind == HUDKind::needsPermission) {
+      std::string names;
+      for (const auto kind : hud().permission.missingKinds()) {
+        names.append(names.empty() ? "" : ", ").append(text(permissionName(kind)));
+      }
+      items_.push_back(Item::status(formatLocalized(text(kMenuMissingPermissionsText), {names})));
+    } else if (hud().kind == HUDKind::tapFailure) {
+      items_.push_back(Item::status(
+          formatLocalized(text(kMenuHUDIssueText), {text(hud().failure.description())})));
+    }
+  }
+
+  void addDigitStatus() {
+    items_.push_back(Item::status(text(digitStatusText(digits().kind()))));
+    const OptionDigitHotKeyError* error = digits().error();
+    if (error == nullptr) {
+      return;
+    }
+    items_.push_back(
+        Item::status(formatLocalized(text(kMenuDigitIssueText), {error->description(localizer_)})));
+    if (error->kind() == OptionDigitHotKeyError::Kind::registerHotKey) {
+      const std::string_view name = modifierDisplayName(inputs_.modifier);
+      items_.push_back(Item::status(formatLocalized(text(kMenuDigitConflictText), {name, name})));
+    }
+  }
+
+  void addHUDActions() {
+    items_.push_back(
+        Item::action(text(inputs_.isHUDEnabled ? kMenuDisableHUDText : kMenuEnableHUDText),
+                     MenuBarCommand::toggleHUD()));
+    if (hud().kind == HUDKind::needsPermission) {
+      for (const auto kind : hud().permission.missingKinds()) {
+        items_.push_back(Item::action(text(kind == EventTapPermissionKind::accessibility
+                                               ? kMenuOpenAccessibilitySettingsText
+                                               : kMenuOpenInputMonitoringSettingsText),
+                                      MenuBarCommand::openPermissionSettings(kind)));
+      }
+    } else if (hud().kind == HUDKind::tapFailure) {
+      items_.push_back(Item::action(text(kMenuRetryHUDText), MenuBarCommand::retryHUD()));
+    }
+  }
+
+  void addDigitActions() {
+    if (digits().kind() == DigitKind::registrationFailed) {
+      items_.push_back(Item::action(
+          formatLocalized(text(kMenuRetryDigitsText), {modifierDisplayName(inputs_.modifier)}),
+          MenuBarCommand::retryOptionDigits()));
+    }
+  }
+
+  const MenuBarPresentationInputs& inputs_;
+  const Localizer& localizer_;
+  std::vector<Item> items_;
+};
+
+bool needsAttention(const MenuBarPresentationInputs& inputs) {
+  const HUDKind hud = inputs.health.hud.kind;
+  return (hud != HUDKind::disabled && hud != HUDKind::ready) ||
+         inputs.health.optionDigits.kind() == DigitKind::registrationFailed ||
+         inputs.diagnosticsReportIssue;
+}
+
+} // namespace
+
+MenuBarPresentation MenuBarPresentation::make(const MenuBarPresentationInputs& inputs,
+                                              const Localizer& localizer) {
+  const bool attention = needsAttention(inputs);
+  return {.iconState = attention ? MenuBarIconState::attention : MenuBarIconState::normal,
+          .accessibilityDescription = attention ? localizer.localized(kMenuNeedsAttentionText)
+                                                : std::string(kMenuBarNormalDescription),
+          .items = ItemsBuilder(inputs, localizer).build()};
+}
+
+} // namespace quenby
