@@ -10,6 +10,7 @@ MenuBarAssembly::MenuBarAssembly(const BasePlatform& base, const AppShellPlatfor
                                  std::function<void()> showSettings)
     : controller_(
           {.feature = hud.feature(),
+           .keyboardAccess = hud.keyboardAccess(),
            .optionDigits = shortcuts.optionDigits(),
            .preferences = data.preferences(),
            .diagnostics = shell.shortcutDiagnostics(),

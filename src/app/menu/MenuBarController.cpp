@@ -16,6 +16,7 @@ void MenuBarController::start() {
   }
   isStopped_ = false;
   healthObservation_ = c_.feature.observeHealth([this] { synchronize(); });
+  keyboardAccessObservation_ = c_.keyboardAccess.observe([this] { synchronize(); });
   c_.optionDigits.setOnHealthChanged([this](const OptionDigitHotKeyHealth&) { synchronize(); });
   preferenceObservation_ = c_.preferences.observe([this](AppPreferenceChange change) {
     if (change.property == AppPreferenceProperty::activationModifier) {
@@ -34,6 +35,7 @@ void MenuBarController::stop() {
   }
   isStopped_ = true;
   healthObservation_.cancel();
+  keyboardAccessObservation_.cancel();
   c_.optionDigits.setOnHealthChanged(nullptr);
   preferenceObservation_.cancel();
   diagnosticsObservation_.cancel();
@@ -94,7 +96,8 @@ void MenuBarController::synchronize() {
       MenuBarPresentation::make({.health = health_,
                                  .isHUDEnabled = c_.feature.isEnabled(),
                                  .modifier = c_.preferences.activationModifier(),
-                                 .diagnosticsReportIssue = c_.diagnostics.hasIssue()},
+                                 .diagnosticsReportIssue = c_.diagnostics.hasIssue(),
+                                 .keyboardAccess = c_.keyboardAccess.condition()},
                                 c_.localizer);
   if (presentation == presentation_) {
     return;

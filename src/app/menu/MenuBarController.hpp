@@ -8,6 +8,7 @@
 #include "base/Localizer.hpp"
 #include "base/ObservationToken.hpp"
 #include "data/AppPreferencesProviding.hpp"
+#include "hud/access/KeyboardAccessMonitor.hpp"
 #include "hud/feature/HUDFeatureController.hpp"
 #include "hud/tap/SystemEventTapPermission.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyFeatureController.hpp"
@@ -24,6 +25,7 @@ class MenuBarController {
 public:
   struct Collaborators {
     HUDFeatureController& feature;
+    KeyboardAccessMonitor& keyboardAccess;
     OptionDigitHotKeyFeatureController& optionDigits;
     AppPreferencesProviding& preferences;
     ShortcutDiagnostics& diagnostics;
@@ -56,6 +58,7 @@ private:
 
   Collaborators c_;
   ObservationToken healthObservation_;
+  ObservationToken keyboardAccessObservation_;
   ObservationToken preferenceObservation_;
   ObservationToken diagnosticsObservation_;
   bool isStopped_ = true;

@@ -48,6 +48,7 @@ public:
 
   std::vector<Item> build() {
     addHUDStatus();
+    addKeyboardAccessStatus();
     addDigitStatus();
     addHUDActions();
     addDigitActions();
@@ -81,6 +82,24 @@ private:
     }
   }
 
+  [[nodiscard]] bool tapLooksStale() const {
+    return hud().kind == HUDKind::ready && inputs_.keyboardAccess.tapLooksStale;
+  }
+
+  void addKeyboardAccessStatus() {
+    if (hud().kind != HUDKind::ready) {
+      return;
+    }
+    if (const auto& holder = inputs_.keyboardAccess.secureInputHolder) {
+      items_.push_back(Item::status(holder->empty()
+                                        ? text(kMenuSecureInputUnknownHolderText)
+                                        : formatLocalized(text(kMenuSecureInputText), {*holder})));
+    }
+    if (tapLooksStale()) {
+      items_.push_back(Item::status(text(kMenuTapStaleText)));
+    }
+  }
+
   void addDigitStatus() {
     items_.push_back(Item::status(text(digitStatusText(digits().kind()))));
     const OptionDigitHotKeyError* error = digits().error();
@@ -108,6 +127,10 @@ private:
       }
     } else if (hud().kind == HUDKind::tapFailure) {
       items_.push_back(Item::action(text(kMenuRetryHUDText), MenuBarCommand::retryHUD()));
+    } else if (tapLooksStale()) {
+      items_.push_back(Item::action(
+          text(kMenuOpenInputMonitoringSettingsText),
+          MenuBarCommand::openPermissionSettings(EventTapPermissionKind::inputMonitoring)));
     }
   }
 
@@ -126,7 +149,9 @@ private:
 
 bool needsAttention(const MenuBarPresentationInputs& inputs) {
   const HUDKind hud = inputs.health.hud.kind;
+  // Secure keyboard entry is not a fault: a password field holds it for as long as it has focus.
   return (hud != HUDKind::disabled && hud != HUDKind::ready) ||
+         (hud == HUDKind::ready && inputs.keyboardAccess.tapLooksStale) ||
          inputs.health.optionDigits.kind() == DigitKind::registrationFailed ||
          inputs.diagnosticsReportIssue;
 }

@@ -5,6 +5,7 @@
 #include "app/menu/MenuBarItemPresentation.hpp"
 #include "base/Localizer.hpp"
 #include "data/AppPreferences.hpp"
+#include "hud/access/KeyboardAccessCondition.hpp"
 
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@ struct MenuBarPresentationInputs {
   bool isHUDEnabled = false;
   ActivationModifierPreference modifier = ActivationModifierPreference::option;
   bool diagnosticsReportIssue = false;
+  /// Why a running tap may hear nothing; shown only while the HUD is ready.
+  KeyboardAccessCondition keyboardAccess{};
 };
 
 /// The status item and its menu, ready to show: the icon's variant, what the icon says to

@@ -56,6 +56,20 @@ inline constexpr LocalizedText kMenuEnableHUDText{
 inline constexpr LocalizedText kMenuOpenAccessibilitySettingsText{
     "menu.permissions.accessibility", "Open Accessibility Settings…",
     "Menu item that opens the Accessibility privacy pane of System Settings."};
+inline constexpr LocalizedText kMenuSecureInputText{
+    "menu.status.secure-input", "Letter shortcuts are paused: %@ is using secure keyboard entry",
+    "Menu bar detail line while another application holds secure keyboard entry (a password "
+    "field, a terminal's secure input); %@ is that application's name."};
+inline constexpr LocalizedText kMenuSecureInputUnknownHolderText{
+    "menu.status.secure-input.unknown",
+    "Letter shortcuts are paused: another app is using secure keyboard entry",
+    "Menu bar detail line while secure keyboard entry is on and macOS does not say which "
+    "application holds it."};
+inline constexpr LocalizedText kMenuTapStaleText{
+    "menu.status.tap-stale",
+    "Keyboard access looks stale: remove Quenby from Input Monitoring and add it again",
+    "Menu bar detail line when macOS shows the Input Monitoring grant but the keyboard tap "
+    "receives no keys, typically after an update."};
 inline constexpr LocalizedText kMenuOpenInputMonitoringSettingsText{
     "menu.permissions.input-monitoring", "Open Input Monitoring Settings…",
     "Menu item that opens the Input Monitoring privacy pane of System Settings."};
