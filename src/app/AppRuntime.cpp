@@ -10,8 +10,7 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
       shortcuts_(platform_.base, platform_.shortcuts, shell_.configurationReporter(), data_.usage(),
                  data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
-      hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_,
-           shell_.configurationReporter()),
+      hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_),
       lifecycle_(makeLifecycle()) {
   hud_.controller().setSettingsOpener([this] { platform_.ui.settingsWindow->show(); });
   hud_.controller().setLetterEditorOpener(

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "hud/gestures/SystemModifierKeyStateReader.hpp"
+#include "hud/panel/HUDDigitInfoPresenting.hpp"
 #include "hud/panel/HUDOutsideClickMonitorDependencies.hpp"
 #include "hud/panel/HUDPresentationSignposting.hpp"
 #include "hud/panel/KeyboardHUDPanelMaking.hpp"
+#include "hud/routing/KeyboardCharacterTranslating.hpp"
 #include "hud/tap/SystemEventTapPermission.hpp"
 #include "hud/tap/SystemKeyboardEventTapDependencies.hpp"
 
@@ -12,7 +14,8 @@
 namespace quenby {
 
 /// What the keyboard HUD needs from the platform: the session-wide keyboard tap and its
-/// permissions, the physical state of the modifier keys, the panel with its mouse monitors, and
+/// permissions, the physical state of the modifier keys, what each key types under the current
+/// layout, the panel with its mouse monitors, the explanation of a digit that leads nowhere, and
 /// the presentation signposts.
 struct HUDPlatform {
   SystemKeyboardEventTapDependencies eventTap = SystemKeyboardEventTapDependencies::inert();
@@ -24,8 +27,13 @@ struct HUDPlatform {
   HUDOutsideClickMonitorDependencies outsideClicks = HUDOutsideClickMonitorDependencies::inert();
   std::shared_ptr<HUDPresentationSignposting> signposter =
       std::make_shared<InertHUDPresentationSignposter>();
+  std::shared_ptr<KeyboardCharacterTranslating> characterTranslator =
+      std::make_shared<InertKeyboardCharacterTranslator>();
+  std::shared_ptr<HUDDigitInfoPresenting> digitInfo =
+      std::make_shared<InertHUDDigitInfoPresenter>();
 
-  /// No tap can be created, nothing is granted, no key is held and the panel never appears.
+  /// No tap can be created, nothing is granted, no key is held, keys type nothing (US letter
+  /// positions apply) and no panel or explanation ever appears.
   [[nodiscard]] static HUDPlatform inert() { return {}; }
 };
 

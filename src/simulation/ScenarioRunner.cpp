@@ -10,8 +10,8 @@ namespace quenby {
 namespace {
 
 /// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{"layout", "reduce-motion", "menu",
-                                        "alert",  "secure-input",  "tap-deaf"};
+constexpr std::array kLaterFeatureLines{"reduce-motion", "menu", "alert", "secure-input",
+                                        "tap-deaf"};
 
 } // namespace
 

@@ -26,8 +26,12 @@ public:
   /// device-dependent bit, as the system sets them.
   [[nodiscard]] std::uint64_t flags() const;
 
+  enum class Layout { us, azerty, cyrillic };
+
   bool accessibilityGranted = true;
   bool inputMonitoringGranted = true;
+  /// The keyboard layout the user has selected.
+  Layout layout = Layout::us;
 
 private:
   std::set<std::uint16_t> held_;
