@@ -51,19 +51,23 @@ public:
 
   HUDKeyboardAction() : case_(None{}) {}
 
-  [[nodiscard]] static HUDKeyboardAction execute(AppMapping mapping, HUDKey key) {
-    return HUDKeyboardAction(Execute{std::move(mapping), key});
+  // By reference: each payload is copied once, from the routing tables (passing it by value
+  // and moving it on trips a false maybe-uninitialized warning in GCC 12).
+  [[nodiscard]] static HUDKeyboardAction execute(const AppMapping& mapping, HUDKey key) {
+    return HUDKeyboardAction(Case(std::in_place_type<Execute>, Execute{mapping, key}));
   }
-  [[nodiscard]] static HUDKeyboardAction hideApplication(AppMapping mapping) {
-    return HUDKeyboardAction(HideApplication{std::move(mapping)});
+  [[nodiscard]] static HUDKeyboardAction hideApplication(const AppMapping& mapping) {
+    return HUDKeyboardAction(Case(std::in_place_type<HideApplication>, HideApplication{mapping}));
   }
   [[nodiscard]] static HUDKeyboardAction openNumericInfo(int digit,
-                                                         HUDNumericMappingProblem problem) {
-    return HUDKeyboardAction(OpenNumericInfo{digit, std::move(problem)});
+                                                         const HUDNumericMappingProblem& problem) {
+    return HUDKeyboardAction(
+        Case(std::in_place_type<OpenNumericInfo>, OpenNumericInfo{digit, problem}));
   }
   [[nodiscard]] static HUDKeyboardAction
-  openLetterEditor(char letter, std::optional<ApplicationResolutionProblem> problem) {
-    return HUDKeyboardAction(OpenLetterEditor{letter, std::move(problem)});
+  openLetterEditor(char letter, const std::optional<ApplicationResolutionProblem>& problem) {
+    return HUDKeyboardAction(
+        Case(std::in_place_type<OpenLetterEditor>, OpenLetterEditor{letter, problem}));
   }
   [[nodiscard]] static HUDKeyboardAction none() { return {}; }
   [[nodiscard]] static HUDKeyboardAction dismiss() { return HUDKeyboardAction(Dismiss{}); }
