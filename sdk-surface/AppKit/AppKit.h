@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKitDefines.h>
 #import <AppKit/NSAccessibility.h>
+#import <AppKit/NSAlert.h>
 #import <AppKit/NSAnimationContext.h>
 #import <AppKit/NSAppearance.h>
 #import <AppKit/NSApplication.h>
