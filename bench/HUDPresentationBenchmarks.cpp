@@ -104,7 +104,8 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
   InertAppSwitchCommandSubmitter switchCommands;
   InertAppSwitchFailureHandler failureHandler;
   NoOpShortcutAnimationPresenter animation;
-  InertConfigurationFailureReporter reporter;
+  InertAppHider hider;
+  InertHUDDigitInfoPresenter digitInfo;
   InertWindowPlacementSnapshotProvider placement;
   EnglishLocalizer localizer;
   KeyboardHUDViewModel model(preferences.hudSize(), preferences.hudTheme(), "Open Settings");
@@ -119,7 +120,8 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
        .switchCommands = switchCommands,
        .failureHandler = failureHandler,
        .animation = animation,
-       .configurationReporter = reporter,
+       .appHider = hider,
+       .digitInfo = digitInfo,
        .preferences = preferences,
        .windowPlacement = placement,
        .model = model,
@@ -127,6 +129,7 @@ void BM_HUDRecognitionToFirstFrame(benchmark::State& state) {
        .panelFactory = panels,
        .outsideClickMonitor = HUDOutsideClickMonitorDependencies::inert(),
        .contentAnimationScheduler = scheduler,
+       .actionScheduler = scheduler,
        .localizer = localizer});
   ScriptedBenchmarkTap scripted(preferences, scheduler, scheduler, metrics, &controller);
   if (!scripted.started) {

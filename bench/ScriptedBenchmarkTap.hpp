@@ -1,18 +1,25 @@
 #pragma once
 
+#include "hud/routing/HUDKeyDownRouter.hpp"
 #include "hud/tap/GlobalKeyboardEventTap.hpp"
 #include "support/ScriptedKeyboardEventTapSystem.hpp"
 #include "support/ScriptedModifierKeyState.hpp"
 
 namespace quenby {
 
-/// A started keyboard tap on the scripted system, forwarding every key, with the keys the
-/// benchmark holds. `presenter` may be null; everything given must outlive it.
+/// A started keyboard tap on the scripted system, with the real key routing over `mappings` (no
+/// mapping at all when null), nothing in front, keys typing nothing (the US letter positions),
+/// and the keys the benchmark holds. `presenter` may be null; everything given must outlive it.
 struct ScriptedBenchmarkTap {
   ScriptedBenchmarkTap(AppPreferencesProviding& preferences, MainScheduler& scheduler,
                        const MonotonicClock& clock, HUDPresentationMeasuring& metrics,
-                       KeyboardHUDPresenting* presenter)
-      : tap({.dependencies = system.dependencies(),
+                       KeyboardHUDPresenting* presenter,
+                       KeyboardMappingSnapshotProviding* mappings = nullptr)
+      : router({.mappings = mappings != nullptr ? *mappings : noMappings,
+                .preferences = preferences,
+                .frontmostApplication = frontmost,
+                .characterTranslator = characters}),
+        tap({.dependencies = system.dependencies(),
              .preferences = preferences,
              .keyStateReader = keys,
              .scheduler = scheduler,
@@ -29,7 +36,10 @@ struct ScriptedBenchmarkTap {
 
   ScriptedKeyboardEventTapSystem system;
   ScriptedModifierKeyState keys;
-  ForwardingKeyDownRouter router;
+  InertKeyboardMappingSnapshotProvider noMappings;
+  InertFrontmostApplicationProvider frontmost;
+  InertKeyboardCharacterTranslator characters;
+  HUDKeyDownRouter router;
   NullLogger logger;
   GlobalKeyboardEventTap tap;
   bool started = false;

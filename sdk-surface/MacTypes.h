@@ -4,6 +4,8 @@
 
 #include <stdint.h>
 
+typedef uint8_t UInt8;
+typedef uint16_t UInt16;
 typedef uint32_t UInt32;
 typedef int32_t SInt32;
 // A signed 32-bit int on 64-bit systems, not a long.
@@ -13,5 +15,7 @@ typedef FourCharCode OSType;
 typedef UInt32 OptionBits;
 typedef unsigned long ItemCount;
 typedef unsigned long ByteCount;
+typedef UInt16 UniChar;
+typedef unsigned long UniCharCount;
 
 enum { noErr = 0 };

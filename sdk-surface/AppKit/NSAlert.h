@@ -15,9 +15,16 @@ NS_ASSUME_NONNULL_BEGIN
 static const NSModalResponse NSAlertFirstButtonReturn = 1000;
 static const NSModalResponse NSAlertSecondButtonReturn = 1001;
 
+typedef NS_ENUM(NSUInteger, NSAlertStyle){
+    NSAlertStyleWarning = 0,
+    NSAlertStyleInformational = 1,
+    NSAlertStyleCritical = 2,
+};
+
 @interface NSAlert : NSObject
 @property(copy) NSString* messageText;
 @property(copy) NSString* informativeText;
+@property NSAlertStyle alertStyle;
 // Buttons are laid out right to left in the order added; the first is the default.
 - (NSButton*)addButtonWithTitle:(NSString*)title;
 // Runs the alert's own modal loop and returns once the user answered.

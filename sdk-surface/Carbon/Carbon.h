@@ -4,4 +4,5 @@
 
 #include <ApplicationServices/ApplicationServices.h>
 #include <Carbon/CarbonEvents.h>
+#include <Carbon/TextInputSources.h>
 #include <CoreServices/CoreServices.h>

@@ -14,11 +14,15 @@ typedef CFStringRef CFRunLoopMode;
 // The pseudo-mode that stands for every mode marked common (the default mode, event tracking,
 // modal panels).
 CF_EXPORT const CFRunLoopMode kCFRunLoopCommonModes;
+CF_EXPORT const CFRunLoopMode kCFRunLoopDefaultMode;
 
 CFRunLoopRef CFRunLoopGetMain(void);
 // The run loop retains the source until it is removed.
 void CFRunLoopAddSource(CFRunLoopRef rl, CFRunLoopSourceRef source, CFRunLoopMode mode);
 void CFRunLoopRemoveSource(CFRunLoopRef rl, CFRunLoopSourceRef source, CFRunLoopMode mode);
+// `mode` is a mode name or an array of them; the block runs when the loop next runs in it.
+void CFRunLoopPerformBlock(CFRunLoopRef rl, CFTypeRef mode, void (^block)(void));
+void CFRunLoopWakeUp(CFRunLoopRef rl);
 
 CF_EXTERN_C_END
 #pragma clang assume_nonnull end

@@ -4,3 +4,4 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreServices/MDItem.h>
+#include <CoreServices/UnicodeUtilities.h>

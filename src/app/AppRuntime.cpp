@@ -10,8 +10,7 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
       shortcuts_(platform_.base, platform_.shortcuts, platform_.ui, shell_.configurationReporter(),
                  data_.usage(), data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
-      hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_,
-           shell_.configurationReporter()),
+      hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_),
       menuBar_(platform_.base, platform_.app, shell_, data_, shortcuts_, hud_,
                [this] { platform_.ui.settingsWindow->show(); }),
       lifecycle_(makeLifecycle()) {

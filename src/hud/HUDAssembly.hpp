@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/ConfigurationFailureReporting.hpp"
 #include "base/BasePlatform.hpp"
 #include "data/DataAssembly.hpp"
 #include "data/DataPlatform.hpp"
@@ -9,8 +8,8 @@
 #include "hud/feature/HUDFeatureController.hpp"
 #include "hud/panel/HUDPerformanceMetrics.hpp"
 #include "hud/panel/KeyboardHUDController.hpp"
+#include "hud/routing/HUDKeyDownRouter.hpp"
 #include "hud/tap/GlobalKeyboardEventTap.hpp"
-#include "hud/tap/KeyDownRouting.hpp"
 #include "hud/tap/SystemEventTapPermission.hpp"
 #include "hud/view/KeyboardHUDViewModel.hpp"
 #include "shortcuts/ShortcutsAssembly.hpp"
@@ -18,13 +17,13 @@
 namespace quenby {
 
 /// The keyboard HUD's feature objects: the view model and the panel that shows it, the
-/// session-wide keyboard tap that recognises the gestures, and the feature switch that decides
-/// whether that tap may run. Everything it is given must outlive it.
+/// session-wide keyboard tap that recognises the gestures, the routing that decides each key, and
+/// the feature switch that decides whether that tap may run. Everything it is given must outlive
+/// it.
 class HUDAssembly {
 public:
   HUDAssembly(const BasePlatform& base, const HUDPlatform& platform,
-              const DataPlatform& dataPlatform, DataAssembly& data, ShortcutsAssembly& shortcuts,
-              ConfigurationFailureReporting& configurationReporter);
+              const DataPlatform& dataPlatform, DataAssembly& data, ShortcutsAssembly& shortcuts);
   HUDAssembly(const HUDAssembly&) = delete;
   HUDAssembly& operator=(const HUDAssembly&) = delete;
   ~HUDAssembly();
@@ -50,8 +49,7 @@ private:
   KeyboardHUDViewModel model_;
   HUDPerformanceMetrics metrics_;
   KeyboardHUDController controller_;
-  // Every key passes until key routing decides otherwise.
-  ForwardingKeyDownRouter router_;
+  HUDKeyDownRouter router_;
   SystemEventTapPermission permission_;
   GlobalKeyboardEventTap eventTap_;
   HUDFeatureController feature_;

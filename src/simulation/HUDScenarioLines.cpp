@@ -1,5 +1,6 @@
-// The keyboard and the mouse as the HUD meets them: physical keys and modifiers, the keyboard
-// tap's permissions and the system switching the tap off, clicks on and around the panel.
+// The keyboard and the mouse as the HUD meets them: physical keys and modifiers, the layout that
+// says what the keys type, the keyboard tap's permissions and the system switching the tap off,
+// clicks on and around the panel.
 
 #include "app/AppRuntime.hpp"
 #include "simulation/ScenarioArguments.hpp"
@@ -158,6 +159,21 @@ void dragLine(ScenarioContext& context, const Arguments& arguments) {
         SimulatedMouseMonitors::Button::left, "drag");
 }
 
+void layoutLine(ScenarioContext& context, const Arguments& arguments) {
+  constexpr const char* usage = "layout us|azerty|cyrillic";
+  expectArgumentCount(arguments, 2, 2, usage);
+  auto& layout = context.world().keyboard().layout;
+  if (arguments[1] == "us") {
+    layout = SimulatedKeyboard::Layout::us;
+  } else if (arguments[1] == "azerty") {
+    layout = SimulatedKeyboard::Layout::azerty;
+  } else if (arguments[1] == "cyrillic") {
+    layout = SimulatedKeyboard::Layout::cyrillic;
+  } else {
+    throw ScenarioLineError{"\"" + arguments[1] + "\" is not a layout: " + std::string(usage)};
+  }
+}
+
 void secureInputLine(ScenarioContext& context, const Arguments& arguments) {
   expectArgumentCount(arguments, 2, 2, "secure-input APP|off");
   auto& holder = context.world().keyboard().secureInputHolder;
@@ -196,6 +212,7 @@ void registerHUDScenarioLines(ScenarioLineRegistry& registry) {
   registry.addLine("permission", permissionLine);
   registry.addLine("modifier", modifierLine);
   registry.addLine("modifier-lost", modifierLostLine);
+  registry.addLine("layout", layoutLine);
   registry.addLine("key", keyLine);
   registry.addLine("press", pressLine);
   registry.addLine("tap-disable", tapDisableLine);

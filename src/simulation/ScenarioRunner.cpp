@@ -4,15 +4,7 @@
 #include "simulation/ScenarioArguments.hpp"
 #include "simulation/ScenarioLineTokenizer.hpp"
 
-#include <array>
-
 namespace quenby {
-namespace {
-
-/// Lines of the scenario language that belong to features this build does not have yet.
-constexpr std::array kLaterFeatureLines{"layout"};
-
-} // namespace
 
 ScenarioRunner::ScenarioRunner(ScenarioEventSink& sink, std::string scriptDirectory)
     : context_(sink, std::move(scriptDirectory)) {
@@ -74,11 +66,6 @@ void ScenarioRunner::runLine(const ScenarioLineRegistry::Arguments& arguments) {
   if (const auto* line = lines_.line(command)) {
     (*line)(context_, arguments);
     return;
-  }
-  for (const char* later : kLaterFeatureLines) {
-    if (command == later) {
-      throw ScenarioLineError{"not supported yet"};
-    }
   }
   throw ScenarioLineError{"unknown line \"" + command + "\""};
 }

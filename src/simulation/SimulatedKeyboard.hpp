@@ -27,12 +27,16 @@ public:
   /// device-dependent bit, as the system sets them.
   [[nodiscard]] std::uint64_t flags() const;
 
+  enum class Layout { us, azerty, cyrillic };
+
   /// Whether a keyboard tap receives key events now: not while secure keyboard entry is on, and
   /// not while the system shows a grant it no longer honours.
   [[nodiscard]] bool tapHearsKeys() const { return !secureInputHolder && !tapDeaf; }
 
   bool accessibilityGranted = true;
   bool inputMonitoringGranted = true;
+  /// The keyboard layout the user has selected.
+  Layout layout = Layout::us;
   /// The name of the application holding secure keyboard entry, while one does.
   std::optional<std::string> secureInputHolder;
   bool tapDeaf = false;

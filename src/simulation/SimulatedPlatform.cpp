@@ -4,6 +4,8 @@
 #include "shortcuts/running/IcnsApplicationIconLoader.hpp"
 #include "shortcuts/running/MainThreadApplicationIconWorkScheduler.hpp"
 #include "simulation/RecordingKeyValueStore.hpp"
+#include "simulation/SimulatedCharacterTranslator.hpp"
+#include "simulation/SimulatedDigitInfoPresenter.hpp"
 #include "simulation/SimulatedFailurePanelFactory.hpp"
 #include "simulation/SimulatedHUDEnableExplainer.hpp"
 #include "simulation/SimulatedKeyboardAccessProbe.hpp"
@@ -87,6 +89,8 @@ HUDPlatform simulatedHud(SimulatedWorld& world, const ScenarioEventRecorder& rec
       .keyStateReader = std::make_shared<SimulatedModifierKeyStateReader>(keyboard),
       .panelFactory = std::move(panels),
       .outsideClicks = mouse.dependencies(),
+      .characterTranslator = std::make_shared<SimulatedCharacterTranslator>(keyboard),
+      .digitInfo = std::make_shared<SimulatedDigitInfoPresenter>(recorder),
       .keyboardAccess = std::make_shared<SimulatedKeyboardAccessProbe>(keyboard),
   };
 }

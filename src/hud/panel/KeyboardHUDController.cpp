@@ -1,9 +1,8 @@
 #include "hud/panel/KeyboardHUDController.hpp"
 
 #include "hud/panel/KeyboardHUDPanelConfiguration.hpp"
+#include "hud/routing/HUDRoutingSnapshot.hpp"
 #include "hud/view/KeyboardHUDLayout.hpp"
-#include "shortcuts/hotkeys/UnavailableDockPositionFailure.hpp"
-#include "shortcuts/mapping/NumberMappingEntries.hpp"
 #include "shortcuts/switching/AppSwitchConfigurationFailure.hpp"
 
 #include <utility>
@@ -82,66 +81,55 @@ void KeyboardHUDController::hide() {
   panel_->dismiss();
 }
 
-void KeyboardHUDController::selectKey(HUDKey key) {
-  switch (key.kind()) {
-  case HUDKey::Kind::number:
-    selectDigit(key.digit());
+void KeyboardHUDController::perform(const HUDKeyboardAction& action) {
+  if (action.is<HUDKeyboardAction::None>()) {
     return;
-  case HUDKey::Kind::letter:
-    selectLetter(key.letter());
+  }
+  hide();
+  if (action.is<HUDKeyboardAction::Dismiss>()) {
     return;
-  case HUDKey::Kind::escape:
-    hide();
-    return;
-  case HUDKey::Kind::other:
-    return;
+  }
+  pendingActions_.push_back(action);
+  if (pendingActions_.size() == 1) {
+    pendingActionsRun_ =
+        collaborators_.actionScheduler.post(lifetime_.weak([this] { runPendingActions(); }));
   }
 }
 
-void KeyboardHUDController::execute(const AppMapping& mapping) {
-  // A copy: the mapping may live in content that a refresh replaces while hiding.
-  const AppMapping target = mapping;
-  hide();
-  switchChecked(target);
+void KeyboardHUDController::selectKey(HUDKey key) {
+  // What the user saw on the key, not what the mappings hold by now.
+  const auto routing = HUDRoutingSnapshot::from(collaborators_.model.current().snapshot);
+  auto decision = routing.decideVisibleKey(key);
+  if (key.kind() == HUDKey::Kind::letter && decision.action.is<HUDKeyboardAction::None>()) {
+    decision.action = HUDKeyboardAction::openLetterEditor(key.letter(), std::nullopt);
+  }
+  perform(decision.action);
 }
 
-void KeyboardHUDController::openSettings() {
-  hide();
-  if (settingsOpener_) {
+void KeyboardHUDController::runPendingActions() {
+  // Taken first: an action may choose another (a window opening may hide the HUD).
+  const auto actions = std::exchange(pendingActions_, {});
+  pendingActionsRun_ = ObservationToken();
+  for (const auto& action : actions) {
+    run(action);
+  }
+}
+
+void KeyboardHUDController::run(const HUDKeyboardAction& action) {
+  if (const auto* execute = action.as<HUDKeyboardAction::Execute>()) {
+    switchChecked(execute->mapping);
+  } else if (const auto* hiding = action.as<HUDKeyboardAction::HideApplication>()) {
+    collaborators_.appHider.hideIfFrontmost(hiding->mapping);
+  } else if (const auto* info = action.as<HUDKeyboardAction::OpenNumericInfo>()) {
+    collaborators_.digitInfo.show(info->digit,
+                                  info->problem.message(info->digit, collaborators_.localizer));
+  } else if (const auto* editor = action.as<HUDKeyboardAction::OpenLetterEditor>()) {
+    if (letterEditorOpener_) {
+      letterEditorOpener_(editor->letter);
+    }
+  } else if (action.is<HUDKeyboardAction::OpenSettings>() && settingsOpener_) {
     settingsOpener_();
   }
-}
-
-void KeyboardHUDController::openLetterEditor(char letter) {
-  hide();
-  if (letterEditorOpener_) {
-    letterEditorOpener_(letter);
-  }
-}
-
-void KeyboardHUDController::selectDigit(int digit) {
-  if (!NumberMappingEntries::isPosition(digit)) {
-    return;
-  }
-  // What the user saw on the key, not what the Dock holds by now.
-  const NumberMappingEntry entry = collaborators_.model.current().snapshot.numberEntries.at(digit);
-  hide();
-  if (const AppMapping* mapping = entry.mapping()) {
-    switchChecked(*mapping);
-    return;
-  }
-  collaborators_.configurationReporter.report(
-      unavailableDockPositionFailure(digit, *entry.problem(), collaborators_.localizer));
-}
-
-void KeyboardHUDController::selectLetter(char letter) {
-  const auto& letters = collaborators_.model.current().snapshot.letterMappings;
-  const auto found = letters.find(letter);
-  if (found == letters.end()) {
-    openLetterEditor(letter);
-    return;
-  }
-  execute(found->second);
 }
 
 void KeyboardHUDController::switchChecked(const AppMapping& mapping) {

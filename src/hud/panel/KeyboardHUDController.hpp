@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/ConfigurationFailureReporting.hpp"
 #include "base/Geometry.hpp"
 #include "base/LifetimeGuard.hpp"
 #include "base/Localizer.hpp"
@@ -8,6 +7,7 @@
 #include "base/ObservationToken.hpp"
 #include "data/AppPreferencesProviding.hpp"
 #include "data/WindowPlacementSnapshotProviding.hpp"
+#include "hud/panel/HUDDigitInfoPresenting.hpp"
 #include "hud/panel/HUDOutsideClickMonitor.hpp"
 #include "hud/panel/HUDPresentationMeasuring.hpp"
 #include "hud/panel/KeyboardHUDPanel.hpp"
@@ -18,6 +18,7 @@
 #include "shortcuts/mapping/KeyboardMappingSnapshotProviding.hpp"
 #include "shortcuts/running/ApplicationIconProviding.hpp"
 #include "shortcuts/running/RunningApplicationMonitoring.hpp"
+#include "shortcuts/switching/AppHiding.hpp"
 #include "shortcuts/switching/AppSwitchCommandSubmitting.hpp"
 #include "shortcuts/switching/AppSwitchFailureHandling.hpp"
 #include "ui/animation/ShortcutAnimationPresenting.hpp"
@@ -27,6 +28,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace quenby {
 
@@ -36,10 +38,10 @@ namespace quenby {
 /// anywhere else, and turns picks on it into switches. It never activates the application: the
 /// user keeps typing into the front application while the HUD is up.
 ///
-/// A pick on the HUD always switches, never hides the front application, and goes through the
-/// same check as a shortcut: a mapping that cannot work is reported (once per application and
-/// cause) instead of being submitted, and a digit whose Dock position holds no application is
-/// explained as for the modifier-digit shortcut.
+/// Keys and picks on the HUD become `HUDKeyboardAction`s. A switch goes through the same check
+/// as a shortcut: a mapping that cannot work is reported (once per application and cause)
+/// instead of being submitted. A digit that leads nowhere is explained on the spot, in the words
+/// the modifier-digit shortcut uses.
 ///
 /// Main thread only. Every collaborator and the model must outlive the controller.
 class KeyboardHUDController final : public KeyboardHUDPresenting {
@@ -52,7 +54,8 @@ public:
     AppSwitchFailureHandling& failureHandler;
     /// Plays just before an accepted pick is submitted.
     ShortcutAnimationPresenting& animation;
-    ConfigurationFailureReporting& configurationReporter;
+    AppHiding& appHider;
+    HUDDigitInfoPresenting& digitInfo;
     AppPreferencesProviding& preferences;
     const WindowPlacementSnapshotProviding& windowPlacement;
     KeyboardHUDViewModel& model;
@@ -60,6 +63,8 @@ public:
     KeyboardHUDPanelMaking& panelFactory;
     HUDOutsideClickMonitorDependencies outsideClickMonitor;
     MainScheduler& contentAnimationScheduler;
+    /// Runs the actions, each after the event that chose it.
+    MainScheduler& actionScheduler;
     const Localizer& localizer;
   };
 
@@ -78,15 +83,15 @@ public:
   void show() override;
   void hide() override;
 
-  /// A key picked on the HUD, by click or by keyboard: a digit or a letter switches to its
-  /// application (an unmapped letter opens the mapping editor there), Escape dismisses.
+  /// Hides the HUD at once, so the next key already meets it closed; the rest of the action
+  /// runs after the current event, in the order the actions came: a switch, a hide of the front
+  /// application, the digit's explanation, the mapping editor or the Settings window (each
+  /// opener only when someone set it).
+  void perform(const HUDKeyboardAction& action) override;
+  /// A key clicked on the HUD, decided as the same key typed, over the content the user sees;
+  /// a click on a letter without a mapping opens the mapping editor there.
   void selectKey(HUDKey key);
-  /// Hides the HUD, then switches to `mapping`'s application unless the mapping cannot work.
-  void execute(const AppMapping& mapping);
-  /// Hides the HUD, then opens the Settings window when someone can.
-  void openSettings();
-  /// Hides the HUD, then opens the mapping editor at `letter` when someone can.
-  void openLetterEditor(char letter);
+  void openSettings() { perform(HUDKeyboardAction::openSettings()); }
 
   /// Called once per presentation, when its first frame is on screen.
   void setOnFirstFramePresented(std::function<void()> hook) {
@@ -121,8 +126,8 @@ private:
   void iconsChanged();
   void fadeIn(std::uint64_t generation);
   void finishFade(std::uint64_t generation);
-  void selectDigit(int digit);
-  void selectLetter(char letter);
+  void runPendingActions();
+  void run(const HUDKeyboardAction& action);
   void switchChecked(const AppMapping& mapping);
 
   Collaborators collaborators_;
@@ -135,6 +140,8 @@ private:
   std::function<void()> onFirstFramePresented_;
   std::function<void()> settingsOpener_;
   std::function<void(char)> letterEditorOpener_;
+  std::vector<HUDKeyboardAction> pendingActions_;
+  ObservationToken pendingActionsRun_;
   AppPreferenceObservation preferenceObservation_;
   ObservationToken mappingObservation_;
   ObservationToken runningObservation_;

@@ -184,21 +184,24 @@ EventTapDisposition GlobalKeyboardEventTap::handleKeyDown(const KeyboardTapEvent
     return EventTapDisposition::forward;
   }
   const bool hudIsVisible = presenter_->isVisible();
-  const auto verdict = router_.route(
+  const auto decision = router_.route(
       {.keyCode = keyCode,
        .flags = event.flags,
        .hudIsVisible = hudIsVisible,
        .modifierSuppressedUntilRelease = !gestures_.normalizer().suppressedUntilRelease.empty()});
-  if (verdict.disposition == EventTapDisposition::consume) {
+  if (decision.disposition == EventTapDisposition::consume) {
     consumedKeyCodes_.insert(keyCode);
     if (!hudIsVisible) {
       hiddenShortcutKeyCodes_.insert(keyCode);
     }
-    if (verdict.isSettingsShortcut) {
+    if (decision.action.is<HUDKeyboardAction::OpenSettings>()) {
       settingsShortcutKeyCodes_.insert(keyCode);
     }
   }
-  return verdict.disposition;
+  if (!decision.action.is<HUDKeyboardAction::None>()) {
+    presenter_->perform(decision.action);
+  }
+  return decision.disposition;
 }
 
 EventTapDisposition GlobalKeyboardEventTap::handleKeyUp(std::uint16_t keyCode) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hud/tap/EventTapDisposition.hpp"
+#include "hud/routing/HUDKeyboardEventDecision.hpp"
 
 #include <cstdint>
 
@@ -17,37 +17,15 @@ struct KeyDownRoutingRequest {
   bool modifierSuppressedUntilRelease = false;
 };
 
-/// The routing's answer. A consumed key has its repeats and its key-up swallowed too.
-struct KeyDownVerdict {
-  EventTapDisposition disposition = EventTapDisposition::forward;
-  /// The key opens Settings: its auto-repeats are swallowed at once.
-  bool isSettingsShortcut = false;
-
-  [[nodiscard]] static constexpr KeyDownVerdict forward() { return {}; }
-  [[nodiscard]] static constexpr KeyDownVerdict consume() {
-    return {EventTapDisposition::consume, false};
-  }
-  [[nodiscard]] static constexpr KeyDownVerdict settingsShortcut() {
-    return {EventTapDisposition::consume, true};
-  }
-
-  friend constexpr bool operator==(const KeyDownVerdict&, const KeyDownVerdict&) = default;
-};
-
 /// Decides what a key-down means to the program. Runs inside the tap's callback for every key of
-/// the session: it must not block and should not allocate. Main thread only.
+/// the session: it must not block, and a key it forwards must cost no allocation. Main thread
+/// only.
 class KeyDownRouting {
 public:
   virtual ~KeyDownRouting() = default;
-  [[nodiscard]] virtual KeyDownVerdict route(const KeyDownRoutingRequest& request) = 0;
-};
-
-/// Claims no key: every key-down goes on to the focused application.
-class ForwardingKeyDownRouter final : public KeyDownRouting {
-public:
-  [[nodiscard]] KeyDownVerdict route(const KeyDownRoutingRequest&) override {
-    return KeyDownVerdict::forward();
-  }
+  /// A consumed key has its repeats and its key-up swallowed too; an `openSettings` action's
+  /// repeats are swallowed at once.
+  [[nodiscard]] virtual HUDKeyboardEventDecision route(const KeyDownRoutingRequest& request) = 0;
 };
 
 } // namespace quenby

@@ -76,9 +76,11 @@ struct RecordingSubmitter final : AppSwitchCommandSubmitting {
   std::vector<AppMapping> submitted;
 };
 
-struct RecordingReporter final : ConfigurationFailureReporting {
-  void report(const ConfigurationFailure& failure) override { reported.push_back(failure); }
-  std::vector<ConfigurationFailure> reported;
+struct RecordingDigitInfo final : HUDDigitInfoPresenting {
+  void show(int digit, const std::string& message) override {
+    shown.push_back(std::to_string(digit) + ": " + message);
+  }
+  std::vector<std::string> shown;
 };
 
 // The system's monitors: the test delivers events through the handlers it keeps.
@@ -137,7 +139,8 @@ struct Fixture {
   RecordingSubmitter submitter;
   RecordingAppSwitchFailureHandler failureHandler;
   NoOpShortcutAnimationPresenter animation;
-  RecordingReporter reporter;
+  InertAppHider hider;
+  RecordingDigitInfo digitInfo;
   ManualScheduler scheduler;
   std::vector<HUDPresentationPhase> phases;
   InertHUDPresentationSignposter signposter;
@@ -157,7 +160,8 @@ struct Fixture {
       .switchCommands = submitter,
       .failureHandler = failureHandler,
       .animation = animation,
-      .configurationReporter = reporter,
+      .appHider = hider,
+      .digitInfo = digitInfo,
       .preferences = preferences,
       .windowPlacement = placement,
       .model = model,
@@ -165,6 +169,7 @@ struct Fixture {
       .panelFactory = panelFactory,
       .outsideClickMonitor = monitors.dependencies(),
       .contentAnimationScheduler = scheduler,
+      .actionScheduler = scheduler,
       .localizer = localizer,
   }};
 };
@@ -314,11 +319,14 @@ TEST(KeyboardHUDControllerTest, ArrivingIconsAppearWithoutAFade) {
   EXPECT_EQ(f.scheduler.pendingCount(), 0U);
 }
 
-TEST(KeyboardHUDControllerTest, PicksHideFirstThenSwitchOrExplain) {
+TEST(KeyboardHUDControllerTest, PicksHideAtOnceThenActAfterTheEvent) {
   Fixture f;
   f.submitter.onSubmit = [&f] { EXPECT_FALSE(f.controller.isVisible()); };
   f.controller.show();
   f.panelFactory.clicked(HUDKey::letter('S'));
+  EXPECT_FALSE(f.controller.isVisible());
+  EXPECT_TRUE(f.submitter.submitted.empty());
+  f.scheduler.runPending();
   ASSERT_EQ(f.submitter.submitted.size(), 1U);
   EXPECT_EQ(f.submitter.submitted[0].bundleIdentifier, "com.example.Safari");
 
@@ -326,24 +334,26 @@ TEST(KeyboardHUDControllerTest, PicksHideFirstThenSwitchOrExplain) {
   f.controller.show();
   f.mappings.current.numberEntries.set(2, NumberMappingEntry());
   f.model.onNumberClicked(2);
+  f.scheduler.runPending();
   ASSERT_EQ(f.submitter.submitted.size(), 2U);
   EXPECT_EQ(f.submitter.submitted[1].bundleIdentifier, "com.example.Mail");
 
   f.controller.show();
   f.controller.selectKey(HUDKey::number(7));
-  EXPECT_FALSE(f.controller.isVisible());
-  ASSERT_EQ(f.reporter.reported.size(), 1U);
-  EXPECT_EQ(f.reporter.reported[0].id, "switch.configuration.dock.7.empty-position");
-  EXPECT_EQ(f.reporter.reported[0].message, "Dock position 7 does not contain a pinned "
-                                            "application. Number shortcuts follow Dock order and "
-                                            "cannot be edited in Quenby.");
+  f.scheduler.runPending();
+  EXPECT_EQ(f.digitInfo.shown,
+            (std::vector<std::string>{"7: Dock position 7 does not contain a pinned application. "
+                                      "Number shortcuts follow Dock order and cannot be edited in "
+                                      "Quenby."}));
 
   auto broken = mapping(MappingSource::letter('T'), "com.example.Tool", "/Applications/Tool");
-  f.controller.show();
-  f.controller.execute(broken);
+  f.controller.perform(HUDKeyboardAction::execute(broken, HUDKey::letter('T')));
+  f.controller.perform(HUDKeyboardAction::hideApplication(broken));
+  f.scheduler.runPending();
   ASSERT_EQ(f.failureHandler.failures.size(), 1U);
   EXPECT_EQ(f.failureHandler.failures[0].second, broken);
   EXPECT_EQ(f.submitter.submitted.size(), 2U);
+  EXPECT_EQ(f.hider.hiddenMappings(), std::vector<AppMapping>{broken});
 
   std::vector<std::string> opened;
   f.controller.setSettingsOpener(
@@ -359,6 +369,7 @@ TEST(KeyboardHUDControllerTest, PicksHideFirstThenSwitchOrExplain) {
   EXPECT_TRUE(f.controller.isVisible());
   f.controller.selectKey(HUDKey::escape());
   EXPECT_FALSE(f.controller.isVisible());
+  f.scheduler.runPending();
   EXPECT_EQ(opened, (std::vector<std::string>{"settings", "Q"}));
 }
 

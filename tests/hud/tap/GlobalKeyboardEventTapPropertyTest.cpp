@@ -9,7 +9,13 @@
 // resets even when a time-out recovers, since the system may have dropped events meanwhile). So
 // the model marks a key "swallowed" when its key-down is consumed, unmarks it at its key-up, and
 // clears every mark at each reset; the tap must agree with the model on every key-up.
+//
+// The keys are decided by the real routing: a few letters are assigned (one of them to an
+// application that can't be found), and each key-down carries the activation modifier alone,
+// Command alone, or Shift with the modifier, so hidden shortcuts, the HUD's keys and the
+// Settings shortcut all occur.
 
+#include "hud/routing/HUDKeyDownRouter.hpp"
 #include "hud/tap/TapHarness.hpp"
 
 #include <array>
@@ -27,14 +33,36 @@ TEST(GlobalKeyboardEventTapPropertyTest, AKeyUpIsSwallowedExactlyWhenItsKeyDownW
   constexpr int kSteps = 1'000'000;
   constexpr std::uint16_t kKeys = 12;
   auto h = std::make_unique<TapHarness>();
-  for (std::uint16_t key = 0; key < kKeys; key += 3) {
-    h->router.consumed.set(key);
+  KeyboardMappingSnapshot snapshot;
+  for (const char letter : {'A', 'F', 'Z', 'C'}) {
+    const auto url = FileURL::fromPath(std::string("/Applications/") + letter + ".app");
+    snapshot.letterMappings.emplace(
+        letter, AppMapping{.displayName = std::string(1, letter),
+                           .bundleIdentifier = std::string("com.example.") + letter,
+                           .lastKnownURL = url,
+                           .resolution = letter == 'C' ? ApplicationResolution::notFound()
+                                                       : ApplicationResolution::resolved(url),
+                           .source = MappingSource::letter(letter)});
   }
-  h->router.consumed.set(TapKeyDownRouter::kSettingsKey);
-  const std::array<std::uint16_t, kKeys + 1> keys{
-      0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, TapKeyDownRouter::kSettingsKey};
+  struct FixedMappings final : KeyboardMappingSnapshotProviding {
+    [[nodiscard]] const KeyboardMappingSnapshot& snapshot() const override { return current; }
+    [[nodiscard]] ObservationToken observe(SnapshotHandler) override { return {}; }
+    KeyboardMappingSnapshot current;
+  } mappings;
+  mappings.current = snapshot;
+  InertFrontmostApplicationProvider frontmost;
+  InertKeyboardCharacterTranslator characters;
+  HUDKeyDownRouter router({.mappings = mappings,
+                           .preferences = h->preferences,
+                           .frontmostApplication = frontmost,
+                           .characterTranslator = characters});
+  h->router.delegate = &router;
+  // Letters, a key that is neither letter nor digit, the digit 1, Escape and comma.
+  const std::array<std::uint16_t, kKeys + 3> keys{
+      0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 18, 53, TapKeyDownRouter::kSettingsKey};
   const std::array<std::uint16_t, 3> modifiers{TapHarness::kLeftOption, TapHarness::kRightOption,
                                                TapHarness::kLeftControl};
+  const std::array<std::uint64_t, 3> flags{0x80000, 0x100000, 0xA0000};
 
   std::mt19937 random(20240611);
   std::bitset<128> down;
@@ -54,7 +82,7 @@ TEST(GlobalKeyboardEventTapPropertyTest, AKeyUpIsSwallowedExactlyWhenItsKeyDownW
     }
     if (roll < 350) {
       const bool repeat = down.test(key);
-      const auto result = h->system.keyDown(key, 0x80000, repeat);
+      const auto result = h->system.keyDown(key, flags[random() % flags.size()], repeat);
       if (!repeat) {
         down.set(key);
         swallowed.set(key, result == EventTapDisposition::consume);

@@ -23,9 +23,15 @@ struct TapHUDPresenter final : KeyboardHUDPresenting {
     visible = false;
     ++hides;
   }
+  // As the panel controller does: every action closes the HUD first.
+  void perform(const HUDKeyboardAction& action) override {
+    visible = false;
+    performed.push_back(action);
+  }
   bool visible = false;
   int shows = 0;
   int hides = 0;
+  std::vector<HUDKeyboardAction> performed;
 };
 
 struct TapPresentationCounter final : HUDPresentationMeasuring {
@@ -37,20 +43,24 @@ struct TapPresentationCounter final : HUDPresentationMeasuring {
 };
 
 /// Consumes the key codes it is told to, and Command-comma's key as the settings shortcut while
-/// the HUD is visible.
+/// the HUD is visible; or asks `delegate`, when there is one.
 struct TapKeyDownRouter final : KeyDownRouting {
   static constexpr std::uint16_t kSettingsKey = 43;
-  [[nodiscard]] KeyDownVerdict route(const KeyDownRoutingRequest& request) override {
+  [[nodiscard]] HUDKeyboardEventDecision route(const KeyDownRoutingRequest& request) override {
     ++calls;
     last = request;
+    if (delegate != nullptr) {
+      return delegate->route(request);
+    }
     if (request.keyCode == kSettingsKey && request.hudIsVisible) {
-      return KeyDownVerdict::settingsShortcut();
+      return HUDKeyboardEventDecision::consume(HUDKeyboardAction::openSettings());
     }
     return request.keyCode < consumed.size() && consumed.test(request.keyCode)
-               ? KeyDownVerdict::consume()
-               : KeyDownVerdict::forward();
+               ? HUDKeyboardEventDecision::consume(HUDKeyboardAction::none())
+               : HUDKeyboardEventDecision{};
   }
   std::bitset<128> consumed;
+  KeyDownRouting* delegate = nullptr;
   int calls = 0;
   KeyDownRoutingRequest last;
 };
