@@ -37,7 +37,7 @@ void ActivationGestureRecognizer::handleFlagsChanged(std::uint16_t keyCode) {
   }
 }
 
-void ActivationGestureRecognizer::noteOtherKeyDown() {
+void ActivationGestureRecognizer::cancelGesturesInProgress() {
   doubleTap_.handle(ModifierInput::otherKeyDown());
   forgetClosedTransientHUD();
   applyLongPress(longPress_.handle(ModifierInput::otherKeyDown()));

@@ -48,8 +48,16 @@ public:
   /// For every flags-changed event; the key's state is read from the hardware, never from the
   /// event's flags, so that left and right are told apart.
   void handleFlagsChanged(std::uint16_t keyCode);
-  /// For every key-down, auto-repeats included, before the key is routed.
-  void noteOtherKeyDown();
+  /// For every key-down, auto-repeats included, before the key is routed. Inline and first of
+  /// all a test: almost every key-down of a session arrives with no gesture under way.
+  void noteOtherKeyDown() {
+    if (doubleTap_.state.phase == ModifierDoubleTapRecognizer::State::Phase::idle &&
+        longPress_.state.phase != ModifierLongPressRecognizer::State::Phase::pending &&
+        !hudOwnedByLongPress_ && longPressTimer_.isCancelled()) {
+      return;
+    }
+    cancelGesturesInProgress();
+  }
 
   /// Each forgets the gesture in progress; a side held at the change counts only after it has
   /// been released once.
@@ -76,6 +84,7 @@ public:
   [[nodiscard]] bool isLongPressCheckScheduled() const { return !longPressTimer_.isCancelled(); }
 
 private:
+  void cancelGesturesInProgress();
   [[nodiscard]] bool hudIsVisible() const;
   void forgetClosedTransientHUD();
   void applyLongPress(ModifierLongPressRecognizer::Outcome outcome);

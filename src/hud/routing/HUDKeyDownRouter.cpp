@@ -1,49 +1,35 @@
 #include "hud/routing/HUDKeyDownRouter.hpp"
 
+#include "hud/tap/KeyboardEventFlags.hpp"
+
 namespace quenby {
-namespace {
-
-std::uint64_t flagOf(ActivationModifierPreference modifier) {
-  return modifier == ActivationModifierPreference::control ? HUDKeyDownRouter::kControlFlag
-                                                           : HUDKeyDownRouter::kOptionFlag;
-}
-
-} // namespace
 
 HUDKeyDownRouter::HUDKeyDownRouter(Collaborators collaborators)
     : frontmostApplication_(collaborators.frontmostApplication),
       translator_(collaborators.characterTranslator),
       routing_(HUDRoutingSnapshot::from(collaborators.mappings.snapshot())),
-      activationFlag_(flagOf(collaborators.preferences.activationModifier())),
       hidesFrontmostApplication_(collaborators.preferences.shortcutHidesFrontmostApplication()) {
   mappingObservation_ =
       collaborators.mappings.observe([this](const KeyboardMappingSnapshot& snapshot) {
         routing_ = HUDRoutingSnapshot::from(snapshot);
       });
   preferenceObservation_ = collaborators.preferences.observe([this](AppPreferenceChange change) {
-    if (const auto modifier = change.valueIf<ActivationModifierPreference>(
-            AppPreferenceProperty::activationModifier)) {
-      activationFlag_ = flagOf(*modifier);
-    } else if (const auto hides =
-                   change.valueIf<bool>(AppPreferenceProperty::shortcutHidesFrontmostApplication)) {
+    if (const auto hides =
+            change.valueIf<bool>(AppPreferenceProperty::shortcutHidesFrontmostApplication)) {
       hidesFrontmostApplication_ = *hides;
     }
   });
 }
 
 HUDKeyboardEventDecision HUDKeyDownRouter::route(const KeyDownRoutingRequest& request) {
-  const std::uint64_t modifiers = request.flags & kModifierMask;
   if (request.hudIsVisible) {
     // Command and nothing else: Command-Shift-comma is somebody else's shortcut.
-    if (request.keyCode == kCommaKeyCode && modifiers == kCommandFlag) {
+    if (request.keyCode == kCommaKeyCode &&
+        (request.flags & KeyboardEventFlags::kModifierMask) == KeyboardEventFlags::kCommand) {
       return HUDKeyboardEventDecision::consume(HUDKeyboardAction::openSettings());
     }
     // No modifier test while the HUD is up: Shift-A is A.
     return routing_.decideVisibleKey(translator_.translate(request.keyCode));
-  }
-  // Shift, Command, fn or the other modifier held as well make it somebody else's shortcut.
-  if (request.modifierSuppressedUntilRelease || modifiers != activationFlag_) {
-    return {};
   }
   return routeHidden(request.keyCode);
 }

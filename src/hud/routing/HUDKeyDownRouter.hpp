@@ -11,9 +11,10 @@
 namespace quenby {
 
 /// The keyboard's side of the HUD and of the letter shortcuts. While the HUD is up it owns its
-/// keys: Escape, digits, assigned letters and Command-comma. While it is hidden, the activation
-/// modifier alone plus an assigned letter whose application is found switches to it (or hides it,
-/// when it is in front and the user asked for that); everything else types as usual.
+/// keys: Escape, digits, assigned letters and Command-comma. While it is hidden, it is asked only
+/// about keys made with the activation modifier alone (the tap settles the rest): an assigned
+/// letter whose application is found switches to it (or hides it, when it is in front and the
+/// user asked for that); everything else types as usual.
 ///
 /// The routing tables are rebuilt when the mappings change and the preferences it needs are kept
 /// as they change, so that a key costs table look-ups: a forwarded key allocates nothing and
@@ -29,12 +30,6 @@ public:
   };
 
   static constexpr std::uint16_t kCommaKeyCode = 43;
-  /// The modifier bits that count: Caps Lock below them and the device-dependent bits are
-  /// ignored.
-  static constexpr std::uint64_t kModifierMask = 0xFFFE0000;
-  static constexpr std::uint64_t kCommandFlag = 0x100000;
-  static constexpr std::uint64_t kOptionFlag = 0x80000;
-  static constexpr std::uint64_t kControlFlag = 0x40000;
 
   explicit HUDKeyDownRouter(Collaborators collaborators);
   HUDKeyDownRouter(const HUDKeyDownRouter&) = delete;
@@ -50,7 +45,6 @@ private:
   const FrontmostApplicationProviding& frontmostApplication_;
   KeyboardEventTranslator translator_;
   HUDRoutingSnapshot routing_;
-  std::uint64_t activationFlag_;
   bool hidesFrontmostApplication_;
   ObservationToken mappingObservation_;
   AppPreferenceObservation preferenceObservation_;

@@ -1,5 +1,7 @@
 #include "hud/tap/GlobalKeyboardEventTap.hpp"
 
+#include "hud/tap/KeyboardEventFlags.hpp"
+
 #include <cstdlib>
 #include <limits>
 
@@ -184,11 +186,16 @@ EventTapDisposition GlobalKeyboardEventTap::handleKeyDown(const KeyboardTapEvent
     return EventTapDisposition::forward;
   }
   const bool hudIsVisible = presenter_->isVisible();
-  const auto decision = router_.route(
-      {.keyCode = keyCode,
-       .flags = event.flags,
-       .hudIsVisible = hudIsVisible,
-       .modifierSuppressedUntilRelease = !gestures_.normalizer().suppressedUntilRelease.empty()});
+  // With the HUD hidden only the activation modifier alone makes a shortcut: Shift, Command, fn
+  // or the other modifier held as well make it somebody else's, and so does a side held since
+  // before the tap (re)started. Almost every key of a session ends here.
+  if (!hudIsVisible && ((event.flags & KeyboardEventFlags::kModifierMask) !=
+                            KeyboardEventFlags::of(gestures_.activationModifier()) ||
+                        !gestures_.normalizer().suppressedUntilRelease.empty())) {
+    return EventTapDisposition::forward;
+  }
+  const auto decision =
+      router_.route({.keyCode = keyCode, .flags = event.flags, .hudIsVisible = hudIsVisible});
   if (decision.disposition == EventTapDisposition::consume) {
     consumedKeyCodes_.insert(keyCode);
     if (!hudIsVisible) {

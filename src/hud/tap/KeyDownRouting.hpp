@@ -7,14 +7,12 @@
 namespace quenby {
 
 /// A key-down that the keyboard tap could not settle by its own bookkeeping: not a repeat, not a
-/// key already swallowed.
+/// key already swallowed, and, with the HUD hidden, one made with the activation modifier alone
+/// (held since its last release was seen).
 struct KeyDownRoutingRequest {
   std::uint16_t keyCode = 0;
   std::uint64_t flags = 0;
   bool hudIsVisible = false;
-  /// A side of the activation modifier is held that has not been released since the tap
-  /// (re)started or the preferences changed; no letter shortcut may fire on it.
-  bool modifierSuppressedUntilRelease = false;
 };
 
 /// Decides what a key-down means to the program. Runs inside the tap's callback for every key of
