@@ -185,6 +185,19 @@ std::string NarratingEventWriter::sentence(const ScenarioEvent& event) {
   if (name == "open-url") {
     return "Opened " + field(event, "url") + ".";
   }
+  if (name == "animation") {
+    return "The shortcut animation played \"" + field(event, "label") + "\" at " +
+           field(event, "frame") + (event.fields.value("reduced", false) ? ", reduced." : ".");
+  }
+  if (name == "settings") {
+    return "The Settings window came forward.";
+  }
+  if (name == "editor") {
+    return "The mapping editor opened at the letter " + field(event, "letter") + ".";
+  }
+  if (name == "digit-info") {
+    return "Explained digit " + field(event, "digit") + ": " + field(event, "message");
+  }
   std::string sentence = name;
   for (const auto& [key, value] : event.fields.items()) {
     sentence.append(" ").append(key).append("=").append(text(value));
