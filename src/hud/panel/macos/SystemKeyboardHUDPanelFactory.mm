@@ -10,6 +10,7 @@
 
 #include "hud/panel/macos/SystemKeyboardHUDPanelFactory.hpp"
 
+#include "base/macos/OverlayPanelStyle.h"
 #import "hud/panel/macos/SystemKeyboardHUDPanel.h"
 
 #include <utility>
@@ -41,13 +42,7 @@ SystemKeyboardHUDPanelFactory::makePanel(const KeyboardHUDPanelConfiguration& co
   panel.collectionBehavior =
       static_cast<NSWindowCollectionBehavior>(configuration.collectionBehavior);
   panel.level = static_cast<NSWindowLevel>(configuration.level);
-  panel.hasShadow = NO;
-  panel.hidesOnDeactivate = NO;
-  panel.becomesKeyOnlyIfNeeded = YES;
-  panel.movable = NO;
-  panel.releasedWhenClosed = NO;
-  panel.excludedFromWindowsMenu = YES;
-  panel.animationBehavior = NSWindowAnimationBehaviorNone;
+  applyOverlayPanelStyle(panel);
 
   [panel setHUDKeyClickHandler:std::move(onHUDKeyClicked)];
   return std::make_unique<SystemKeyboardHUDPanel>(panel, hostingView);

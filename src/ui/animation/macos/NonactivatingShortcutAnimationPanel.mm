@@ -11,6 +11,8 @@
 
 #import "ui/animation/macos/NonactivatingShortcutAnimationPanel.h"
 
+#include "base/macos/OverlayPanelStyle.h"
+
 namespace {
 // The status-window level: above normal and floating windows, below the menu bar's menus.
 constexpr NSWindowLevel kStatusWindowLevel = 25;
@@ -27,14 +29,8 @@ constexpr NSWindowLevel kStatusWindowLevel = 25;
   if (self != nil) {
     self.opaque = NO;
     self.backgroundColor = NSColor.clearColor;
-    self.hasShadow = NO;
+    quenby::applyOverlayPanelStyle(self);
     self.ignoresMouseEvents = YES;
-    self.hidesOnDeactivate = NO;
-    self.becomesKeyOnlyIfNeeded = YES;
-    self.movable = NO;
-    self.releasedWhenClosed = NO;
-    self.excludedFromWindowsMenu = YES;
-    self.animationBehavior = NSWindowAnimationBehaviorNone;
     self.level = kStatusWindowLevel;
     self.collectionBehavior = NSWindowCollectionBehaviorCanJoinAllSpaces |
                               NSWindowCollectionBehaviorFullScreenAuxiliary |
