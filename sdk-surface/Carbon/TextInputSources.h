@@ -18,6 +18,9 @@ CF_EXPORT const CFStringRef kTISNotifySelectedKeyboardInputSourceChanged;
 
 // Create rule: release with CFRelease. Main thread only from macOS 11.
 TISInputSourceRef _Nullable TISCopyCurrentKeyboardLayoutInputSource(void);
+// The most recently used keyboard layout that can type ASCII: what the system falls back to where
+// Latin input is required (+1).
+TISInputSourceRef _Nullable TISCopyCurrentASCIICapableKeyboardLayoutInputSource(void);
 // Get rule: the value belongs to the input source.
 void* _Nullable TISGetInputSourceProperty(TISInputSourceRef inputSource, CFStringRef propertyKey);
 // The hardware keyboard type, for UCKeyTranslate.

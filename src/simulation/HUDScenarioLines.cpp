@@ -162,13 +162,13 @@ void dragLine(ScenarioContext& context, const Arguments& arguments) {
 void layoutLine(ScenarioContext& context, const Arguments& arguments) {
   constexpr const char* usage = "layout us|azerty|cyrillic";
   expectArgumentCount(arguments, 2, 2, usage);
-  auto& layout = context.world().keyboard().layout;
+  SimulatedKeyboard& keyboard = context.world().keyboard();
   if (arguments[1] == "us") {
-    layout = SimulatedKeyboard::Layout::us;
+    keyboard.selectLayout(SimulatedKeyboard::Layout::us);
   } else if (arguments[1] == "azerty") {
-    layout = SimulatedKeyboard::Layout::azerty;
+    keyboard.selectLayout(SimulatedKeyboard::Layout::azerty);
   } else if (arguments[1] == "cyrillic") {
-    layout = SimulatedKeyboard::Layout::cyrillic;
+    keyboard.selectLayout(SimulatedKeyboard::Layout::cyrillic);
   } else {
     throw ScenarioLineError{"\"" + arguments[1] + "\" is not a layout: " + std::string(usage)};
   }

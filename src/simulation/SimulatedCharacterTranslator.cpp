@@ -83,15 +83,23 @@ char16_t layoutCharacter(SimulatedKeyboard::Layout layout, std::uint16_t keyCode
   return usCharacter(keyCode);
 }
 
-} // namespace
-
-TypedKeyText SimulatedCharacterTranslator::character(std::uint16_t keyCode) const {
+TypedKeyText typedText(SimulatedKeyboard::Layout layout, std::uint16_t keyCode) {
   TypedKeyText text;
-  if (const char16_t typed = layoutCharacter(keyboard_.layout, keyCode)) {
+  if (const char16_t typed = layoutCharacter(layout, keyCode)) {
     text.units[0] = typed;
     text.length = 1;
   }
   return text;
+}
+
+} // namespace
+
+TypedKeyText SimulatedCharacterTranslator::character(std::uint16_t keyCode) const {
+  return typedText(keyboard_.layout, keyCode);
+}
+
+TypedKeyText SimulatedCharacterTranslator::asciiCapableCharacter(std::uint16_t keyCode) const {
+  return typedText(keyboard_.asciiCapableLayout, keyCode);
 }
 
 } // namespace quenby

@@ -35,8 +35,18 @@ public:
 
   bool accessibilityGranted = true;
   bool inputMonitoringGranted = true;
+  /// As macOS keeps them: the layout selected last, and the last Latin one, which stands in where
+  /// Latin letters are needed.
+  void selectLayout(Layout selected) {
+    layout = selected;
+    if (selected != Layout::cyrillic) {
+      asciiCapableLayout = selected;
+    }
+  }
+
   /// The keyboard layout the user has selected.
   Layout layout = Layout::us;
+  Layout asciiCapableLayout = Layout::us;
   /// The name of the application holding secure keyboard entry, while one does.
   std::optional<std::string> secureInputHolder;
   bool tapDeaf = false;

@@ -20,12 +20,17 @@ public:
   virtual ~KeyboardCharacterTranslating() = default;
   /// Empty when the key types nothing or there is no layout to ask.
   [[nodiscard]] virtual TypedKeyText character(std::uint16_t keyCode) const = 0;
+  /// The same under the layout macOS uses where Latin letters are needed (the last ASCII-capable
+  /// layout the user selected): asked when the current layout types no Latin letter, as a
+  /// Cyrillic or Greek one does.
+  [[nodiscard]] virtual TypedKeyText asciiCapableCharacter(std::uint16_t keyCode) const = 0;
 };
 
 /// Types nothing, so every letter key is read by its US position.
 class InertKeyboardCharacterTranslator final : public KeyboardCharacterTranslating {
 public:
   [[nodiscard]] TypedKeyText character(std::uint16_t) const override { return {}; }
+  [[nodiscard]] TypedKeyText asciiCapableCharacter(std::uint16_t) const override { return {}; }
 };
 
 } // namespace quenby

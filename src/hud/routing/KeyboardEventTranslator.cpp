@@ -85,6 +85,12 @@ HUDKey KeyboardEventTranslator::translate(std::uint16_t keyCode) const {
   if (const int digit = topRowDigit(keyCode); digit != 0) {
     return HUDKey::number(digit);
   }
+  // A layout without Latin letters: the letter the user types there when Latin is needed, and
+  // the US position when even that layout says nothing.
+  if (const char letter = letterOf(characterTranslator_.asciiCapableCharacter(keyCode));
+      letter != '\0') {
+    return HUDKey::letter(letter);
+  }
   if (const char letter = usANSILetter(keyCode); letter != '\0') {
     return HUDKey::letter(letter);
   }

@@ -6,17 +6,27 @@
 namespace quenby {
 namespace {
 
+using Typing = std::map<std::uint16_t, std::u16string>;
+
+TypedKeyText typedBy(const Typing& typing, std::uint16_t keyCode) {
+  TypedKeyText text;
+  if (const auto found = typing.find(keyCode); found != typing.end()) {
+    for (const char16_t unit : found->second) {
+      text.units[text.length++] = unit;
+    }
+  }
+  return text;
+}
+
 struct LayoutTable final : KeyboardCharacterTranslating {
   [[nodiscard]] TypedKeyText character(std::uint16_t keyCode) const override {
-    TypedKeyText text;
-    if (const auto found = typed.find(keyCode); found != typed.end()) {
-      for (const char16_t unit : found->second) {
-        text.units[text.length++] = unit;
-      }
-    }
-    return text;
+    return typedBy(typed, keyCode);
   }
-  std::map<std::uint16_t, std::u16string> typed;
+  [[nodiscard]] TypedKeyText asciiCapableCharacter(std::uint16_t keyCode) const override {
+    return typedBy(asciiCapable, keyCode);
+  }
+  Typing typed;
+  Typing asciiCapable;
 };
 
 TEST(KeyboardEventTranslatorTest, LettersFollowTheLayoutAndDigitsTheirPlace) {
@@ -48,6 +58,24 @@ TEST(KeyboardEventTranslatorTest, OnlyOneCharacterThatUpperCasesToALatinLetterCo
   EXPECT_EQ(translator.translate(11), HUDKey::letter('B'));
   // The Turkish dotless i is I wherever its key is.
   EXPECT_EQ(translator.translate(34), HUDKey::letter('I'));
+}
+
+TEST(KeyboardEventTranslatorTest, ALayoutWithoutLatinLettersDefersToTheUsersLatinLayout) {
+  LayoutTable russianOverDvorak;
+  russianOverDvorak.typed = {{0, u"ф"}, {1, u"ы"}, {12, u"й"}, {18, u"1"}};
+  russianOverDvorak.asciiCapable = {{1, u"o"}, {12, u"'"}, {18, u"x"}, {0, u"a"}};
+  const KeyboardEventTranslator translator(russianOverDvorak);
+  EXPECT_EQ(translator.translate(1), HUDKey::letter('O'));
+  EXPECT_EQ(translator.translate(0), HUDKey::letter('A'));
+  // Digits keep their place; a key that types no letter there either keeps its US letter.
+  EXPECT_EQ(translator.translate(18), HUDKey::number(1));
+  EXPECT_EQ(translator.translate(12), HUDKey::letter('Q'));
+
+  // A Latin current layout is never second-guessed.
+  LayoutTable azerty;
+  azerty.typed = {{12, u"a"}};
+  azerty.asciiCapable = {{12, u"q"}};
+  EXPECT_EQ(KeyboardEventTranslator(azerty).translate(12), HUDKey::letter('A'));
 }
 
 } // namespace

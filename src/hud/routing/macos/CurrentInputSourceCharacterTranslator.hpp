@@ -18,6 +18,7 @@ public:
   ~CurrentInputSourceCharacterTranslator() override;
 
   [[nodiscard]] TypedKeyText character(std::uint16_t keyCode) const override;
+  [[nodiscard]] TypedKeyText asciiCapableCharacter(std::uint16_t keyCode) const override;
 
 private:
   struct Storage;
