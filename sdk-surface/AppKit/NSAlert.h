@@ -15,10 +15,10 @@ NS_ASSUME_NONNULL_BEGIN
 static const NSModalResponse NSAlertFirstButtonReturn = 1000;
 static const NSModalResponse NSAlertSecondButtonReturn = 1001;
 
-typedef NS_ENUM(NSUInteger, NSAlertStyle){
-    NSAlertStyleWarning = 0,
-    NSAlertStyleInformational = 1,
-    NSAlertStyleCritical = 2,
+typedef NS_ENUM(NSUInteger, NSAlertStyle) {
+  NSAlertStyleWarning = 0,
+  NSAlertStyleInformational = 1,
+  NSAlertStyleCritical = 2,
 };
 
 @interface NSAlert : NSObject

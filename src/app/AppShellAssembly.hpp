@@ -3,14 +3,13 @@
 #include "app/AppShellPlatform.hpp"
 #include "app/OneTimeConfigurationFailureReporter.hpp"
 #include "app/ShortcutDiagnostics.hpp"
-#include "app/ShortcutDiagnosticsHealthAdapter.hpp"
 #include "app/SystemConfigurationFailurePanelPresenter.hpp"
 #include "base/BasePlatform.hpp"
 
 namespace quenby {
 
 /// The application shell's feature objects: once-only failure reporting and the shortcut
-/// diagnostics the menu will read. `base` and `platform` must outlive it.
+/// diagnostics the menu reads. `base` and `platform` must outlive it.
 class AppShellAssembly {
 public:
   AppShellAssembly(const BasePlatform& base, const AppShellPlatform& platform);
@@ -29,7 +28,6 @@ private:
   SystemConfigurationFailurePanelPresenter presenter_;
   OneTimeConfigurationFailureReporter reporter_;
   ShortcutDiagnostics shortcutDiagnostics_;
-  ShortcutDiagnosticsHealthAdapter shortcutDiagnosticsHealth_;
 };
 
 } // namespace quenby

@@ -1,7 +1,5 @@
 #include "app/ShortcutDiagnostics.hpp"
 
-#include "app/ShortcutDiagnosticsHealthAdapter.hpp"
-
 #include <gtest/gtest.h>
 
 namespace quenby {
@@ -37,16 +35,6 @@ TEST(ShortcutDiagnosticsTest, NotifiesOnlyWhenSomethingChanges) {
   EXPECT_EQ(diagnostics.advanceTestGeneration(), 2);
   EXPECT_EQ(changes, 7);
   EXPECT_FALSE(diagnostics.hasIssue());
-}
-
-TEST(ShortcutDiagnosticsTest, HealthAdapterFollowsTheDiagnosticsUntilDetached) {
-  ShortcutDiagnostics diagnostics;
-  ShortcutDiagnosticsHealthAdapter adapter(&diagnostics);
-  EXPECT_FALSE(adapter.hasIssue());
-  diagnostics.recordManualConflict({"conflict"});
-  EXPECT_TRUE(adapter.hasIssue());
-  adapter.setDiagnostics(nullptr);
-  EXPECT_FALSE(adapter.hasIssue());
 }
 
 } // namespace
