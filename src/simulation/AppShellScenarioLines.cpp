@@ -58,7 +58,10 @@ void menuLine(ScenarioContext& context, const Arguments& arguments) {
   };
   for (const auto& [name, command] : kCommands) {
     if (arguments[1] == name) {
-      context.requireRuntime("menu")->menuBar().store().perform(command);
+      // Choosing an item opens the menu first.
+      const MenuBarExtraStore& store = context.requireRuntime("menu")->menuBar().store();
+      store.menuWillOpen();
+      store.perform(command);
       return;
     }
   }

@@ -8,9 +8,10 @@
 // takes the item out of the menu bar, so no menu item can reach the store afterwards. Destroying
 // an installed presenter removes it.
 //
-// Guarantee: the menu always shows the latest presentation: it is rebuilt whole on each
-// publication. An item without a command is disabled and has no action, so it can never be
-// chosen; every other item is enabled, targets the one command target and carries its command.
+// Guarantee: the menu always shows the latest presentation: its items are rebuilt whole on each
+// publication, also while it opens (opening asks the store first, which may republish). An item
+// without a command is disabled and has no action, so it can never be chosen; every other item is
+// enabled, targets the one command target and carries its command.
 
 #include "app/macos/MenuBarStatusItemPresenter.hpp"
 
@@ -35,8 +36,9 @@
 }
 @end
 
-/// Receives every chosen item and hands its command to the store, until detached.
-@interface QBMenuBarCommandTarget : NSObject
+/// Receives every chosen item and the menu's opening and hands them to the store, until
+/// detached.
+@interface QBMenuBarCommandTarget : NSObject <NSMenuDelegate>
 - (instancetype)initWithStore:(quenby::MenuBarExtraStore*)store;
 - (void)performMenuCommand:(NSMenuItem*)sender;
 - (void)detach;
@@ -58,6 +60,12 @@
   id box = sender.representedObject;
   if (_store != nullptr && [box isKindOfClass:[QBMenuBarCommandBox class]]) {
     _store->perform(static_cast<QBMenuBarCommandBox*>(box).command);
+  }
+}
+
+- (void)menuWillOpen:(NSMenu*)menu {
+  if (_store != nullptr) {
+    _store->menuWillOpen();
   }
 }
 
@@ -86,9 +94,11 @@ NSString* keyEquivalent(const MenuBarCommand& command) {
   }
 }
 
-NSMenu* makeMenu(const MenuBarPresentation& presentation, QBMenuBarCommandTarget* target) {
-  NSMenu* menu = [[NSMenu alloc] initWithTitle:@""];
-  menu.autoenablesItems = NO;
+// Refills the one menu in place: a presentation published while the menu opens (the opening
+// re-reads the permissions) must change the menu being shown, not a replacement.
+void fillMenu(NSMenu* menu, const MenuBarPresentation& presentation,
+              QBMenuBarCommandTarget* target) {
+  [menu removeAllItems];
   for (const MenuBarItemPresentation& item : presentation.items) {
     if (item.isSeparator) {
       [menu addItem:[NSMenuItem separatorItem]];
@@ -111,7 +121,6 @@ NSMenu* makeMenu(const MenuBarPresentation& presentation, QBMenuBarCommandTarget
     action.enabled = YES;
     [menu addItem:action];
   }
-  return menu;
 }
 
 } // namespace
@@ -126,12 +135,13 @@ struct MenuBarStatusItemPresenter::State {
       button.image = images.image(presentation.iconState);
       button.accessibilityLabel = menuText(presentation.accessibilityDescription);
     }
-    statusItem.menu = makeMenu(presentation, target);
+    fillMenu(menu, presentation, target);
   }
 
   MenuBarExtraStore& store;
   QBMenuBarCommandTarget* target;
   SystemMenuBarStatusImageProvider images;
+  NSMenu* menu = nil;
   NSStatusItem* statusItem = nil;
   ObservationToken observation;
 };
@@ -149,6 +159,10 @@ void MenuBarStatusItemPresenter::install() {
   state.statusItem = [NSStatusBar.systemStatusBar statusItemWithLength:NSSquareStatusItemLength];
   // Keeps the position the user dragged the item to across launches.
   state.statusItem.autosaveName = @"com.brimfold.Quenby.statusItem";
+  state.menu = [[NSMenu alloc] initWithTitle:@""];
+  state.menu.autoenablesItems = NO;
+  state.menu.delegate = state.target;
+  state.statusItem.menu = state.menu;
   state.show();
   state.observation = state.store.observePresentation([&state] { state.show(); });
 }
@@ -157,6 +171,7 @@ void MenuBarStatusItemPresenter::remove() {
   State& state = *state_;
   state.observation.cancel();
   [state.target detach];
+  state.menu.delegate = nil;
   if (state.statusItem != nil) {
     [NSStatusBar.systemStatusBar removeStatusItem:state.statusItem];
     state.statusItem = nil;

@@ -26,6 +26,9 @@ void MenuBarController::start() {
   diagnosticsObservation_ = c_.diagnostics.observeChanges([this] { synchronize(); });
   c_.presentationPublisher.setCommandHandler(
       [this](const MenuBarCommand& command) { perform(command); });
+  // The permission poll runs only after the user enabled the HUD in this session; a permission
+  // granted (or revoked) after a relaunch shows as soon as the user looks.
+  c_.presentationPublisher.setOpenHandler([this] { c_.feature.refresh(); });
   synchronize();
 }
 
@@ -40,6 +43,7 @@ void MenuBarController::stop() {
   preferenceObservation_.cancel();
   diagnosticsObservation_.cancel();
   c_.presentationPublisher.setCommandHandler(nullptr);
+  c_.presentationPublisher.setOpenHandler(nullptr);
 }
 
 void MenuBarController::perform(const MenuBarCommand& command) {

@@ -27,6 +27,14 @@ public:
     return observers_.add(std::move(handler));
   }
 
+  /// Called as the user opens the menu, before it shows.
+  void setOpenHandler(std::function<void()> handler) { openHandler_ = std::move(handler); }
+  void menuWillOpen() const {
+    if (openHandler_) {
+      openHandler_();
+    }
+  }
+
   void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
   /// A chosen item's command; nothing happens while no handler is set.
   void perform(const MenuBarCommand& command) const {
@@ -39,6 +47,7 @@ private:
   MenuBarPresentation presentation_;
   ObserverList<> observers_;
   CommandHandler commandHandler_;
+  std::function<void()> openHandler_;
 };
 
 } // namespace quenby
