@@ -9,14 +9,12 @@ namespace quenby {
 namespace {
 
 struct ScriptedExplainer final : HUDEnableExplaining {
-  bool confirmEnable(const HUDEnableExplanation& explanation) override {
-    messages.push_back(explanation.message);
+  bool confirmEnable(const HUDEnableExplanation&) override {
     const bool answer = answers.front();
     answers.pop_front();
     return answer;
   }
   std::deque<bool> answers;
-  std::vector<std::string> messages;
 };
 
 struct CountingTerminator final : ApplicationTerminating {
@@ -53,14 +51,6 @@ struct RunningApp {
   MenuBarExtraStore& store() { return *coordinator->menuBarExtra(); }
   MenuBarController& menu() { return runtime.lock()->menuBar().controller(); }
   HUDHealth::Kind hud() { return runtime.lock()->hud().feature().health().kind; }
-  const std::string& toggleTitle() {
-    for (const auto& item : store().presentation().items) {
-      if (item.command == MenuBarCommand::toggleHUD()) {
-        return item.title;
-      }
-    }
-    throw std::runtime_error("no toggle");
-  }
 
   ScriptedKeyboardEventTapSystem tapSystem;
   std::shared_ptr<RecordingHotKeyBackend> hotKeys = std::make_shared<RecordingHotKeyBackend>();
@@ -72,27 +62,6 @@ struct RunningApp {
   ObservationToken observation;
   int publications = 0;
 };
-
-TEST(MenuBarControllerTest, EnablingAsksFirstAndOnlyContinueTurnsTheHUDOn) {
-  auto app = std::make_unique<RunningApp>();
-  app->start();
-  ASSERT_EQ(app->toggleTitle(), "Enable Keyboard HUD…");
-
-  app->explainer->answers = {false, true};
-  app->store().perform(MenuBarCommand::toggleHUD());
-  EXPECT_EQ(app->hud(), HUDHealth::Kind::disabled);
-  EXPECT_EQ(app->publications, 0) << "a cancelled alert changes nothing";
-
-  app->store().perform(MenuBarCommand::toggleHUD());
-  EXPECT_EQ(app->hud(), HUDHealth::Kind::ready);
-  EXPECT_EQ(app->toggleTitle(), "Disable Keyboard HUD");
-  EXPECT_EQ(app->publications, 1);
-
-  // Turning it off needs no explanation.
-  app->store().perform(MenuBarCommand::toggleHUD());
-  EXPECT_EQ(app->hud(), HUDHealth::Kind::disabled);
-  EXPECT_EQ(app->explainer->messages, std::vector<std::string>(2, "Enable the Keyboard HUD?"));
-}
 
 TEST(MenuBarControllerTest, RetriesRepairInOneStepAndQuitAndSettingsGoToThePlatform) {
   auto app = std::make_unique<RunningApp>();

@@ -25,16 +25,6 @@ std::vector<std::string> titles(const MenuBarPresentation& presentation) {
   return titles;
 }
 
-const MenuBarItemPresentation& itemTitled(const MenuBarPresentation& presentation,
-                                          std::string_view title) {
-  for (const auto& item : presentation.items) {
-    if (item.title == title) {
-      return item;
-    }
-  }
-  throw std::runtime_error("no item " + std::string(title));
-}
-
 TEST(MenuBarPresentationTest, EachHealthReadsAsItsStatusLinesRepairItemsAndIcon) {
   const HUDHealth tapStopped = HUDHealth::tapFailure(
       HUDTapFailure::runtime(GlobalKeyboardEventTapFailure::disabledByUserInput));
@@ -143,21 +133,6 @@ TEST(MenuBarPresentationTest, EachHealthReadsAsItsStatusLinesRepairItemsAndIcon)
       EXPECT_EQ(item.command.has_value(), !item.isSeparator && !isStatus) << item.title;
     }
   }
-}
-
-TEST(MenuBarPresentationTest, ActionsCarryTheirCommands) {
-  const EnglishLocalizer localizer;
-  const auto permissions = MenuBarPresentation::make(
-      {{HUDHealth::needsPermission({false, false}), Digits::ready()}, true}, localizer);
-  EXPECT_EQ(itemTitled(permissions, "Open Accessibility Settings…").command,
-            MenuBarCommand::openPermissionSettings(EventTapPermissionKind::accessibility));
-  EXPECT_EQ(itemTitled(permissions, "Open Input Monitoring Settings…").command,
-            MenuBarCommand::openPermissionSettings(EventTapPermissionKind::inputMonitoring));
-  EXPECT_EQ(itemTitled(permissions, "Disable Keyboard HUD").command, MenuBarCommand::toggleHUD());
-  EXPECT_EQ(itemTitled(permissions, "Settings").command, MenuBarCommand::showSettings());
-  EXPECT_EQ(itemTitled(permissions, "Quit Quenby").command, MenuBarCommand::quit());
-  EXPECT_NE(MenuBarCommand::openPermissionSettings(EventTapPermissionKind::accessibility),
-            MenuBarCommand::openPermissionSettings(EventTapPermissionKind::inputMonitoring));
 }
 
 } // namespace

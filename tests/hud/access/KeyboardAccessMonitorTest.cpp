@@ -3,7 +3,6 @@
 #include "base/ManualScheduler.hpp"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace quenby {
 namespace {
@@ -11,17 +10,13 @@ namespace {
 class ScriptedProbe final : public KeyboardAccessProbing {
 public:
   [[nodiscard]] std::int32_t secureInputProcess() const override { return holder; }
-  [[nodiscard]] std::optional<std::string> applicationName(std::int32_t process) const override {
-    ++nameLookups;
-    const auto found = names.find(process);
-    return found == names.end() ? std::nullopt : std::optional(found->second);
+  [[nodiscard]] std::optional<std::string> applicationName(std::int32_t) const override {
+    return std::nullopt;
   }
   [[nodiscard]] std::uint64_t systemKeyDownCount() const override { return systemCount; }
 
   std::int32_t holder = kNoSecureInput;
-  std::map<std::int32_t, std::string> names;
   std::uint64_t systemCount = 0;
-  mutable int nameLookups = 0;
 };
 
 struct Fixture {
@@ -32,34 +27,6 @@ struct Fixture {
   ManualScheduler scheduler;
   KeyboardAccessMonitor monitor{probe, [this] { return tapCount; }, scheduler};
 };
-
-TEST(KeyboardAccessMonitorTest, NamesTheSecureInputHolderOncePerHolder) {
-  Fixture f;
-  int changes = 0;
-  const auto observation = f.monitor.observe([&] { ++changes; });
-  f.monitor.start();
-  EXPECT_EQ(f.monitor.condition(), KeyboardAccessCondition{});
-
-  f.probe.holder = 77;
-  f.probe.names[77] = "Terminal";
-  f.seconds(5);
-  EXPECT_EQ(f.monitor.condition().secureInputHolder, "Terminal");
-  EXPECT_EQ(f.probe.nameLookups, 1);
-  EXPECT_EQ(changes, 1);
-
-  // A holder the session does not name, and one that quit before it could be asked.
-  f.probe.holder = KeyboardAccessProbing::kUnknownHolder;
-  f.seconds(1);
-  EXPECT_EQ(f.monitor.condition().secureInputHolder, "");
-  f.probe.holder = 78;
-  f.seconds(1);
-  EXPECT_EQ(f.monitor.condition().secureInputHolder, "");
-
-  f.probe.holder = KeyboardAccessProbing::kNoSecureInput;
-  f.seconds(1);
-  EXPECT_EQ(f.monitor.condition(), KeyboardAccessCondition{});
-  EXPECT_EQ(f.probe.nameLookups, 2);
-}
 
 TEST(KeyboardAccessMonitorTest, CallsTheTapStaleOnlyOnTwentyUnheardKeyDownsWithinTenSeconds) {
   Fixture f;

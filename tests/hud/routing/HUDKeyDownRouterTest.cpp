@@ -11,10 +11,8 @@ namespace {
 
 constexpr std::uint64_t kOption = 0x80000;
 constexpr std::uint64_t kShift = 0x20000;
-constexpr std::uint64_t kControl = 0x40000;
 constexpr std::uint64_t kCommand = 0x100000;
 constexpr std::uint64_t kCapsLock = 0x10000;
-constexpr std::uint64_t kLeftOptionDevice = 0x20;
 constexpr std::uint16_t kA = 0, kB = 11, kC = 8, kComma = 43, kEscape = 53;
 constexpr std::uint16_t kDigit1 = 18, kDigit2 = 19, kDigit3 = 20;
 
@@ -142,20 +140,6 @@ TEST(HUDKeyDownRouterTest, FollowsEachNewSnapshotAndOnlyThat) {
   EXPECT_EQ(f.hidden(kA, kOption).disposition, EventTapDisposition::consume);
   f.mappings.changed.notify();
   EXPECT_EQ(f.hidden(kA, kOption), kDefault);
-}
-
-TEST(HUDKeyDownRouterTest, ExplainsADigitInTheDigitShortcutsWords) {
-  EnglishLocalizer localizer;
-  EXPECT_EQ(HUDNumericMappingProblem::unavailable(NumberMappingProblem::emptyDockPosition())
-                .message(4, localizer),
-            "Dock position 4 does not contain a pinned application. Number shortcuts follow Dock "
-            "order and cannot be edited in Quenby.");
-  const auto ambiguous = ApplicationResolutionProblem::ambiguous(
-      {FileURL::fromPath("/Applications/Mail.app"), FileURL::fromPath("/Volumes/Old/Mail.app")});
-  EXPECT_EQ(HUDNumericMappingProblem::unresolved(ambiguous).message(1, localizer),
-            "More than one installed copy matches the application at Dock position 1: "
-            "/Applications/Mail.app, /Volumes/Old/Mail.app. Keep only one of them to use this "
-            "shortcut.");
 }
 
 } // namespace

@@ -95,19 +95,6 @@ TEST(ShortcutAnimationControllerTest, ASecondShortcutRestartsTheAnimationOnItsOw
   EXPECT_EQ(f.scheduler.pendingCount(), 0U);
 }
 
-TEST(ShortcutAnimationControllerTest, ShowsNothingWhenSwitchedOffUnlabelledOrWithoutScreens) {
-  Fixture f;
-  f.preferences.setShortcutAnimationEnabled(false);
-  f.controller.present(mapping(MappingSource::dock(1)), kOption);
-  f.preferences.setShortcutAnimationEnabled(true);
-  f.controller.present(mapping(MappingSource::dock(12)), kOption);
-  f.controller.present(mapping(MappingSource::letter('\xC3')), kOption);
-  f.screenList.clear();
-  f.controller.present(mapping(MappingSource::dock(1)), kOption);
-  EXPECT_EQ(f.take(), Log{});
-  EXPECT_EQ(f.scheduler.pendingCount(), 0U);
-}
-
 TEST(ShortcutAnimationControllerTest, SwitchingOffOrStoppingCutsTheAnimationShort) {
   Fixture f;
   f.controller.prewarm();
