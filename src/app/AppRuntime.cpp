@@ -11,12 +11,12 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
                  data_.usage(), data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_),
+      ui_(platform_.base, platform_.ui, data_, shortcuts_, hud_),
       menuBar_(platform_.base, platform_.app, shell_, data_, shortcuts_, hud_,
-               [this] { platform_.ui.settingsWindow->show(); }),
+               [this] { ui_.showSettings(); }),
       lifecycle_(makeLifecycle()) {
-  hud_.controller().setSettingsOpener([this] { platform_.ui.settingsWindow->show(); });
-  hud_.controller().setLetterEditorOpener(
-      [this](char letter) { platform_.ui.mappingEditor->open(letter); });
+  hud_.controller().setSettingsOpener([this] { ui_.showSettings(); });
+  hud_.controller().setLetterEditorOpener([this](char letter) { ui_.openMappingEditor(letter); });
 }
 
 // Which feature each of the coordinator's steps reaches; the coordinator alone decides their
@@ -35,10 +35,10 @@ AppCoordinatorLifecycle AppRuntime::makeLifecycle() {
   lifecycle.startOptionDigits = [this] { shortcuts_.startOptionDigits(); };
   lifecycle.restoreHUD = [this] { hud_.restoreHUD(); };
   lifecycle.synchronizeMenu = [this] { menuBar_.synchronizeMenu(); };
-  lifecycle.showSettings = [this] { platform_.ui.settingsWindow->show(); };
+  lifecycle.showSettings = [this] { ui_.showSettings(); };
   lifecycle.hideHUD = [this] { hud_.hideHUD(); };
-  lifecycle.closeMappingEditor = [this] { platform_.ui.mappingEditor->close(); };
-  lifecycle.closeSettings = [this] { platform_.ui.settingsWindow->close(); };
+  lifecycle.closeMappingEditor = [this] { ui_.closeMappingEditor(); };
+  lifecycle.closeSettings = [this] { ui_.closeSettings(); };
   lifecycle.stopEventTap = [this] { hud_.stopEventTap(); };
   lifecycle.stopOptionDigits = [this] { shortcuts_.stopOptionDigits(); };
   lifecycle.stopShortcutAnimation = [this] { shortcuts_.shortcutAnimation().stop(); };

@@ -9,6 +9,7 @@
 #include "data/usage/UsageAnalyticsRecording.hpp"
 #include "hud/HUDAssembly.hpp"
 #include "shortcuts/ShortcutsAssembly.hpp"
+#include "ui/UIAssembly.hpp"
 
 namespace quenby {
 
@@ -28,6 +29,7 @@ public:
   [[nodiscard]] ShortcutsAssembly& shortcuts() { return shortcuts_; }
   [[nodiscard]] DataAssembly& data() { return data_; }
   [[nodiscard]] HUDAssembly& hud() { return hud_; }
+  [[nodiscard]] UIAssembly& ui() { return ui_; }
   [[nodiscard]] MenuBarAssembly& menuBar() { return menuBar_; }
 
 private:
@@ -40,6 +42,8 @@ private:
   ShortcutsAssembly shortcuts_;
   // After the shortcuts: the HUD shows their mappings and switches through them.
   HUDAssembly hud_;
+  // After the features its windows show and change.
+  UIAssembly ui_;
   // Last: the menu reports on every feature above.
   MenuBarAssembly menuBar_;
   AppCoordinatorLifecycle lifecycle_;

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "simulation/ScenarioEventRecorder.hpp"
-#include "ui/editor/MappingEditorPresenting.hpp"
+#include "ui/editor/MappingEditorWindowMaking.hpp"
 
+#include <memory>
 #include <string>
 
 namespace quenby {
@@ -16,6 +17,21 @@ public:
     recorder_.emit("editor", {{"letter", std::string(1, letter)}});
   }
   void close() override {}
+
+private:
+  const ScenarioEventRecorder& recorder_;
+};
+
+/// Builds the simulated mapping editor; the recorder must outlive what it builds.
+class SimulatedMappingEditorFactory final : public MappingEditorWindowMaking {
+public:
+  explicit SimulatedMappingEditorFactory(const ScenarioEventRecorder& recorder)
+      : recorder_(recorder) {}
+
+  [[nodiscard]] std::unique_ptr<MappingEditorPresenting>
+  makeMappingEditorWindow(MappingEditorViewModel&) override {
+    return std::make_unique<SimulatedMappingEditor>(recorder_);
+  }
 
 private:
   const ScenarioEventRecorder& recorder_;

@@ -120,8 +120,10 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
                            std::make_shared<SimulatedWindowPlacementSnapshotProvider>(world),
                        .calendar = std::make_shared<FixedOffsetUsageCalendar>()},
               .hud = simulatedHud(world, recorder, *eventTap, *mouse, panels),
-              .ui = {.settingsWindow = std::make_shared<SimulatedSettingsWindow>(recorder),
-                     .mappingEditor = std::make_shared<SimulatedMappingEditor>(recorder),
+              .ui = {.settingsWindows = std::make_shared<SimulatedSettingsWindowFactory>(recorder),
+                     .mappingEditorWindows =
+                         std::make_shared<SimulatedMappingEditorFactory>(recorder),
+                     .launchAtLogin = std::make_shared<InertLaunchAtLoginService>(),
                      .shortcutAnimationPanels =
                          std::make_shared<SimulatedShortcutAnimationPanelFactory>(recorder),
                      .shortcutAnimationScreens = animationSystem,

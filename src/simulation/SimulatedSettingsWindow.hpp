@@ -1,7 +1,9 @@
 #pragma once
 
 #include "simulation/ScenarioEventRecorder.hpp"
-#include "ui/settings/SettingsWindowPresenting.hpp"
+#include "ui/settings/SettingsWindowMaking.hpp"
+
+#include <memory>
 
 namespace quenby {
 
@@ -12,6 +14,21 @@ public:
 
   void show() override { recorder_.emit("settings", {}); }
   void close() override {}
+
+private:
+  const ScenarioEventRecorder& recorder_;
+};
+
+/// Builds the simulated Settings window; the recorder must outlive what it builds.
+class SimulatedSettingsWindowFactory final : public SettingsWindowMaking {
+public:
+  explicit SimulatedSettingsWindowFactory(const ScenarioEventRecorder& recorder)
+      : recorder_(recorder) {}
+
+  [[nodiscard]] std::unique_ptr<SettingsWindowPresenting>
+  makeSettingsWindow(SettingsWindowPages) override {
+    return std::make_unique<SimulatedSettingsWindow>(recorder_);
+  }
 
 private:
   const ScenarioEventRecorder& recorder_;

@@ -3,8 +3,9 @@
 #include "ui/animation/ShortcutAnimationMotionProviding.hpp"
 #include "ui/animation/ShortcutAnimationPanelCreating.hpp"
 #include "ui/animation/ShortcutAnimationScreenProviding.hpp"
-#include "ui/editor/MappingEditorPresenting.hpp"
-#include "ui/settings/SettingsWindowPresenting.hpp"
+#include "ui/editor/MappingEditorWindowMaking.hpp"
+#include "ui/login/LaunchAtLoginServicing.hpp"
+#include "ui/settings/SettingsWindowMaking.hpp"
 
 #include <memory>
 
@@ -12,16 +13,18 @@ namespace quenby {
 
 /// What the windows and the shortcut animation need from the platform.
 struct UIPlatform {
-  std::shared_ptr<SettingsWindowPresenting> settingsWindow;
-  std::shared_ptr<MappingEditorPresenting> mappingEditor;
+  std::shared_ptr<SettingsWindowMaking> settingsWindows;
+  std::shared_ptr<MappingEditorWindowMaking> mappingEditorWindows;
+  std::shared_ptr<LaunchAtLoginServicing> launchAtLogin;
   std::shared_ptr<ShortcutAnimationPanelCreating> shortcutAnimationPanels;
   std::shared_ptr<ShortcutAnimationScreenProviding> shortcutAnimationScreens;
   std::shared_ptr<ShortcutAnimationMotionProviding> shortcutAnimationMotion;
 
-  /// Windows that never open and an animation that never shows.
+  /// Windows that never open, no login item and an animation that never shows.
   [[nodiscard]] static UIPlatform inert() {
-    return {.settingsWindow = std::make_shared<InertSettingsWindowPresenter>(),
-            .mappingEditor = std::make_shared<InertMappingEditorPresenter>(),
+    return {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
+            .mappingEditorWindows = std::make_shared<InertMappingEditorWindowFactory>(),
+            .launchAtLogin = std::make_shared<InertLaunchAtLoginService>(),
             .shortcutAnimationPanels = std::make_shared<InertShortcutAnimationPanelFactory>(),
             .shortcutAnimationScreens = std::make_shared<InertShortcutAnimationScreenProvider>(),
             .shortcutAnimationMotion = std::make_shared<InertShortcutAnimationMotionProvider>()};

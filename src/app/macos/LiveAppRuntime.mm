@@ -36,8 +36,9 @@ PlatformServices makeLivePlatformServices() {
                .calendar = std::make_shared<SystemUsageCalendar>()},
       .hud = makeLiveHUDPlatform(),
       // The windows come with their own change; until then Settings and the editor open nothing.
-      .ui = {.settingsWindow = std::make_shared<InertSettingsWindowPresenter>(),
-             .mappingEditor = std::make_shared<InertMappingEditorPresenter>(),
+      .ui = {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
+             .mappingEditorWindows = std::make_shared<InertMappingEditorWindowFactory>(),
+             .launchAtLogin = std::make_shared<InertLaunchAtLoginService>(),
              .shortcutAnimationPanels = std::make_shared<SystemShortcutAnimationPanelFactory>(),
              .shortcutAnimationScreens = std::make_shared<SystemShortcutAnimationScreenProvider>(),
              .shortcutAnimationMotion = std::make_shared<SystemShortcutAnimationMotionProvider>()},

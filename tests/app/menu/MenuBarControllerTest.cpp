@@ -22,9 +22,16 @@ struct CountingTerminator final : ApplicationTerminating {
   int requests = 0;
 };
 
-struct CountingSettings final : SettingsWindowPresenting {
-  void show() override { ++shows; }
-  void close() override {}
+struct CountingSettings final : SettingsWindowMaking {
+  struct Window final : SettingsWindowPresenting {
+    explicit Window(int& shows) : shows(shows) {}
+    void show() override { ++shows; }
+    void close() override {}
+    int& shows;
+  };
+  std::unique_ptr<SettingsWindowPresenting> makeSettingsWindow(SettingsWindowPages) override {
+    return std::make_unique<Window>(shows);
+  }
   int shows = 0;
 };
 
@@ -39,7 +46,7 @@ struct RunningApp {
     services.shortcuts.hotKeyBackend = hotKeys;
     services.app.hudEnableExplainer = explainer;
     services.app.terminator = terminator;
-    services.ui.settingsWindow = settings;
+    services.ui.settingsWindows = settings;
     coordinator = makeAppCoordinator(std::move(services), {}, &runtime);
   }
   ~RunningApp() { coordinator->stop(); }

@@ -1,0 +1,12 @@
+#include "ui/UIAssembly.hpp"
+
+namespace quenby {
+
+UIAssembly::UIAssembly(const BasePlatform& /*base*/, const UIPlatform& platform,
+                       DataAssembly& /*data*/, ShortcutsAssembly& /*shortcuts*/,
+                       HUDAssembly& /*hud*/)
+    : settingsWindow_(platform.settingsWindows->makeSettingsWindow(
+          {.general = generalSettings_, .usage = usageSettings_})),
+      mappingEditor_(platform.mappingEditorWindows->makeMappingEditorWindow(mappingEditorModel_)) {}
+
+} // namespace quenby

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/BasePlatform.hpp"
+#include "data/DataAssembly.hpp"
+#include "hud/HUDAssembly.hpp"
+#include "shortcuts/ShortcutsAssembly.hpp"
+#include "ui/UIPlatform.hpp"
+#include "ui/editor/MappingEditorViewModel.hpp"
+#include "ui/settings/GeneralSettingsViewModel.hpp"
+#include "ui/settings/usage/UsageSettingsViewModel.hpp"
+
+#include <memory>
+
+namespace quenby {
+
+/// The windows' feature objects: the view models of the Settings pages and of the mapping editor,
+/// and the windows built over them. Built after the features they show, which must outlive it.
+class UIAssembly {
+public:
+  UIAssembly(const BasePlatform& base, const UIPlatform& platform, DataAssembly& data,
+             ShortcutsAssembly& shortcuts, HUDAssembly& hud);
+  UIAssembly(const UIAssembly&) = delete;
+  UIAssembly& operator=(const UIAssembly&) = delete;
+
+  void showSettings() { settingsWindow_->show(); }
+  void closeSettings() { settingsWindow_->close(); }
+  /// `letter` is upper case, 'A'–'Z'.
+  void openMappingEditor(char letter) { mappingEditor_->open(letter); }
+  void closeMappingEditor() { mappingEditor_->close(); }
+
+  [[nodiscard]] GeneralSettingsViewModel& generalSettings() { return generalSettings_; }
+  [[nodiscard]] UsageSettingsViewModel& usageSettings() { return usageSettings_; }
+  [[nodiscard]] MappingEditorViewModel& mappingEditor() { return mappingEditorModel_; }
+
+private:
+  GeneralSettingsViewModel generalSettings_;
+  UsageSettingsViewModel usageSettings_;
+  MappingEditorViewModel mappingEditorModel_;
+  // After the view models they show.
+  std::unique_ptr<SettingsWindowPresenting> settingsWindow_;
+  std::unique_ptr<MappingEditorPresenting> mappingEditor_;
+};
+
+} // namespace quenby
