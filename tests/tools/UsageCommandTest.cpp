@@ -189,6 +189,14 @@ TEST_F(UsageCommandTest, UnreadablePreferencesFailWithTheFileAndTheKey) {
   }
   EXPECT_EQ(readText(corrupt), corruptBytes) << "read, never quarantined or rewritten";
 
+  std::istringstream script("launch\n");
+  std::ostringstream out;
+  std::ostringstream err;
+  EXPECT_EQ(runSimulateCommand({"--save-defaults", disk.url("no-folder/d.plist").path(), "-"},
+                               script, out, err),
+            1);
+  EXPECT_THAT(err.str(), HasSubstr("quenbyctl simulate: cannot write"));
+
   // A domain without the documents is a person who never switched nor assigned a letter.
   const auto empty = write("empty.plist", PropertyListValue::Dictionary{});
   EXPECT_THAT(usage({"--defaults", empty}).out, HasSubstr("Total switches: 0\n"));
