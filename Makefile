@@ -1,5 +1,5 @@
 # Two commands for a newcomer: `make run` and `make test`. Both install what is missing first.
-.PHONY: run test deps build sanitize syntax-check bench format strings scenarios clean
+.PHONY: run test deps build sanitize syntax-check bench format strings scenarios pictures clean
 
 PRESET ?= release
 BUILD_DIR := build/$(PRESET)
@@ -43,6 +43,10 @@ strings:
 # Regenerates the expected output of every scenario under tests/scenarios/ (review the diff).
 scenarios: build
 	@scripts/update-scenarios $(QUENBYCTL)
+
+# Redraws docs/hud.svg and docs/usage.svg from the examples.
+pictures: build
+	@scripts/make-pictures $(QUENBYCTL)
 
 clean:
 	rm -rf build

@@ -14,6 +14,8 @@ NS_ASSUME_NONNULL_BEGIN
                                    yRadius:(CGFloat)yRadius;
 @property CGFloat lineWidth;
 @property CGFloat miterLimit;
++ (void)fillRect:(NSRect)rect;
++ (void)strokeLineFromPoint:(NSPoint)point1 toPoint:(NSPoint)point2;
 - (void)fill;
 - (void)stroke;
 @end

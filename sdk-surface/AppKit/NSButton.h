@@ -15,6 +15,10 @@ NS_ASSUME_NONNULL_BEGIN
 + (instancetype)buttonWithImage:(NSImage*)image
                          target:(nullable id)target
                          action:(nullable SEL)action;
+// A push button (macOS 10.12).
++ (instancetype)buttonWithTitle:(NSString*)title
+                         target:(nullable id)target
+                         action:(nullable SEL)action;
 @property(getter=isBordered) BOOL bordered;
 @property(nullable, strong) NSImage* image;
 @property(copy) NSString* keyEquivalent;

@@ -20,6 +20,13 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)setStroke;
 @property(class, strong, readonly) NSColor* clearColor;
 @property(class, strong, readonly) NSColor* windowBackgroundColor;
+@property(class, strong, readonly) NSColor* labelColor;
+// macOS 10.14.
+@property(class, strong, readonly) NSColor* separatorColor;
+@property(class, strong, readonly) NSColor* systemBlueColor;
+@property(class, strong, readonly) NSColor* systemOrangeColor;
+@property(class, strong, readonly) NSColor* systemGreenColor;
+@property(class, strong, readonly) NSColor* systemRedColor;
 @end
 
 NS_ASSUME_NONNULL_END

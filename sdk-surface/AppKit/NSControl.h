@@ -7,12 +7,13 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSFont;
+@class NSFont, NSString;
 
 @interface NSControl : NSView
 @property(nullable, copy) NSFont* font;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
+@property(copy) NSString* stringValue;
 @end
 
 NS_ASSUME_NONNULL_END

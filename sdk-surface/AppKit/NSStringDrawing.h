@@ -12,6 +12,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSString (NSStringDrawing)
 - (NSSize)sizeWithAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attrs;
+- (void)drawAtPoint:(NSPoint)point
+     withAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attrs;
 - (void)drawInRect:(NSRect)rect
     withAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attrs;
 @end

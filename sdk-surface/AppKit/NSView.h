@@ -12,6 +12,7 @@
 NS_ASSUME_NONNULL_BEGIN
 
 typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
+  NSViewMinXMargin = 1,
   NSViewWidthSizable = 2,
   NSViewHeightSizable = 16,
 };
@@ -22,6 +23,7 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 - (instancetype)initWithFrame:(NSRect)frameRect;
 @property(readonly, getter=isFlipped) BOOL flipped;
 @property BOOL needsDisplay;
+@property(getter=isHidden) BOOL hidden;
 - (void)displayIfNeeded;
 - (BOOL)acceptsFirstMouse:(nullable NSEvent*)event;
 @property NSRect frame;

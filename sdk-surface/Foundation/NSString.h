@@ -16,6 +16,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
                                 length:(NSUInteger)len
                               encoding:(NSStringEncoding)encoding;
 - (BOOL)isEqualToString:(NSString*)aString;
++ (instancetype)stringWithFormat:(NSString*)format, ... NS_FORMAT_FUNCTION(1, 2);
 @end
 
 NS_ASSUME_NONNULL_END

@@ -27,6 +27,8 @@ public:
   /// "line N: what is wrong".
   int run(std::istream& script);
   [[nodiscard]] const std::string& error() const { return error_; }
+  /// The simulated Mac as the script left it.
+  [[nodiscard]] const SimulatedWorld& world() const { return context_.world(); }
 
   /// Receives the text of "#>" comment lines, which a narrated run prints as headings.
   void setCommentHandler(std::function<void(std::string_view)> handler) {

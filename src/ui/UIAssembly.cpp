@@ -2,10 +2,10 @@
 
 namespace quenby {
 
-UIAssembly::UIAssembly(const BasePlatform& /*base*/, const UIPlatform& platform,
-                       DataAssembly& /*data*/, ShortcutsAssembly& /*shortcuts*/,
-                       HUDAssembly& /*hud*/)
-    : settingsWindow_(platform.settingsWindows->makeSettingsWindow(
+UIAssembly::UIAssembly(const BasePlatform& base, const UIPlatform& platform, DataAssembly& data,
+                       ShortcutsAssembly& /*shortcuts*/, HUDAssembly& /*hud*/)
+    : usageSettings_(data.usage(), *base.localizer),
+      settingsWindow_(platform.settingsWindows->makeSettingsWindow(
           {.general = generalSettings_, .usage = usageSettings_})),
       mappingEditor_(platform.mappingEditorWindows->makeMappingEditorWindow(mappingEditorModel_)) {}
 

@@ -3,6 +3,7 @@
 #include "base/PosixFileSystem.hpp"
 #include "hud/view/KeyboardHUDContentBuilder.hpp"
 #include "hud/view/KeyboardHUDTexts.hpp"
+#include "quenbyctl/DefaultsFile.hpp"
 #include "quenbyctl/DiskMappingResolver.hpp"
 #include "quenbyctl/KeyboardHUDSVGWriter.hpp"
 #include "shortcuts/mapping/LetterMappingDocument.hpp"
@@ -113,20 +114,6 @@ std::variant<HUDOptions, int> parseOptions(const std::vector<std::string>& argum
   return options;
 }
 
-std::string_view describe(PersistenceFormatError error) {
-  switch (error) {
-  case PersistenceFormatError::notJSON:
-    return "is not JSON";
-  case PersistenceFormatError::tooDeep:
-    return "is nested too deeply to be letter mappings";
-  case PersistenceFormatError::wrongShape:
-    return "is not an array of letter-mapping records";
-  case PersistenceFormatError::invalidRecord:
-    break;
-  }
-  return "holds a letter-mapping record that cannot be repaired";
-}
-
 /// The stored records, or the reason they cannot be read.
 std::variant<std::vector<LetterMappingRecord>, std::string> readLetters(const std::string& path) {
   PosixFileSystem fileSystem;
@@ -136,7 +123,7 @@ std::variant<std::vector<LetterMappingRecord>, std::string> readLetters(const st
   }
   auto document = LetterMappingDocument::read(*bytes);
   if (!document) {
-    return path + " " + std::string(describe(document.error()));
+    return path + " " + std::string(DefaultsFile::describe(document.error()));
   }
   return std::move(document->records);
 }

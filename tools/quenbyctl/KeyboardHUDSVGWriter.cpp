@@ -3,6 +3,7 @@
 #include "hud/view/KeyboardHUDContentFade.hpp"
 #include "hud/view/KeyboardHUDKeyFrames.hpp"
 #include "hud/view/KeyboardHUDLayout.hpp"
+#include "quenbyctl/SVGText.hpp"
 
 #include <array>
 #include <cmath>
@@ -20,45 +21,6 @@ constexpr std::string_view kFontFamily =
 constexpr double kShadowOpacity = 0.28;
 constexpr double kShadowRadius = 14;
 constexpr double kShadowOffset = 6;
-
-/// At most two decimals, no trailing zeros, never "-0".
-std::string number(double value) {
-  std::array<char, 32> buffer{};
-  std::snprintf(buffer.data(), buffer.size(), "%.2f", std::round(value * 100) / 100);
-  std::string text(buffer.data());
-  while (text.find('.') != std::string::npos && (text.back() == '0' || text.back() == '.')) {
-    const bool dot = text.back() == '.';
-    text.pop_back();
-    if (dot) {
-      break;
-    }
-  }
-  return text == "-0" ? "0" : text;
-}
-
-std::string escaped(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (const char c : text) {
-    switch (c) {
-    case '&':
-      result += "&amp;";
-      break;
-    case '<':
-      result += "&lt;";
-      break;
-    case '>':
-      result += "&gt;";
-      break;
-    case '"':
-      result += "&quot;";
-      break;
-    default:
-      result += c;
-    }
-  }
-  return result;
-}
 
 std::string base64(const std::vector<std::uint8_t>& bytes) {
   static constexpr std::string_view kAlphabet =
@@ -94,8 +56,8 @@ std::string color(KeyboardHUDRGBColor color) {
 }
 
 std::string frameAttributes(Rect rect) {
-  return "x=\"" + number(rect.x) + "\" y=\"" + number(rect.y) + "\" width=\"" + number(rect.width) +
-         "\" height=\"" + number(rect.height) + "\"";
+  return "x=\"" + svgNumber(rect.x) + "\" y=\"" + svgNumber(rect.y) + "\" width=\"" +
+         svgNumber(rect.width) + "\" height=\"" + svgNumber(rect.height) + "\"";
 }
 
 class Drawing {
@@ -105,31 +67,32 @@ public:
   void key(const KeyboardHUDKeyView& view, Rect frame) {
     const bool mapped = view.mapping.has_value();
     const auto parts = KeyboardHUDKeyFrames::make(frame, scale_, mapped);
-    out_ << "<g aria-label=\"" << escaped(view.accessibilityLabel) << "\">\n";
-    out_ << "<rect " << frameAttributes(parts.key) << " rx=\"" << number(parts.cornerRadius)
+    out_ << "<g aria-label=\"" << svgEscaped(view.accessibilityLabel) << "\">\n";
+    out_ << "<rect " << frameAttributes(parts.key) << " rx=\"" << svgNumber(parts.cornerRadius)
          << "\" fill=\"" << color(palette_.keyFill) << "\" fill-opacity=\""
-         << number(mapped ? palette_.keyFillOpacity : palette_.unboundKeyFillOpacity)
+         << svgNumber(mapped ? palette_.keyFillOpacity : palette_.unboundKeyFillOpacity)
          << "\" stroke=\"" << color(palette_.keyBorder) << "\" stroke-opacity=\""
-         << number(palette_.keyBorderOpacity) << "\" stroke-width=\"" << number(parts.borderWidth)
-         << "\"/>\n";
+         << svgNumber(palette_.keyBorderOpacity) << "\" stroke-width=\""
+         << svgNumber(parts.borderWidth) << "\"/>\n";
     const Rect label = parts.label;
-    out_ << "<text x=\"" << number(mapped ? label.x : label.x + label.width / 2) << "\" y=\""
-         << number(label.y + label.height / 2) << "\" font-size=\"" << number(parts.labelFontSize)
-         << "\" font-weight=\"" << (mapped ? 600 : 500) << "\" text-anchor=\""
-         << (mapped ? "start" : "middle") << "\" dominant-baseline=\"central\"" << textFill(mapped)
-         << ">" << escaped(view.label) << "</text>\n";
+    out_ << "<text x=\"" << svgNumber(mapped ? label.x : label.x + label.width / 2) << "\" y=\""
+         << svgNumber(label.y + label.height / 2) << "\" font-size=\""
+         << svgNumber(parts.labelFontSize) << "\" font-weight=\"" << (mapped ? 600 : 500)
+         << "\" text-anchor=\"" << (mapped ? "start" : "middle")
+         << "\" dominant-baseline=\"central\"" << textFill(mapped) << ">" << svgEscaped(view.label)
+         << "</text>\n";
     if (mapped) {
       icon(view, parts.icon);
-      out_ << "<text x=\"" << number(parts.caption.x + parts.caption.width / 2) << "\" y=\""
-           << number(parts.caption.y + parts.caption.height / 2) << "\" font-size=\""
-           << number(parts.captionFontSize)
+      out_ << "<text x=\"" << svgNumber(parts.caption.x + parts.caption.width / 2) << "\" y=\""
+           << svgNumber(parts.caption.y + parts.caption.height / 2) << "\" font-size=\""
+           << svgNumber(parts.captionFontSize)
            << "\" font-weight=\"600\" text-anchor=\"middle\" dominant-baseline=\"central\""
-           << textFill(false) << ">" << escaped(view.caption) << "</text>\n";
+           << textFill(false) << ">" << svgEscaped(view.caption) << "</text>\n";
       if (view.isRunning) {
         const Rect dot = parts.runningMark;
-        out_ << "<circle cx=\"" << number(dot.x + dot.width / 2) << "\" cy=\""
-             << number(dot.y + dot.height / 2) << "\" r=\"" << number(dot.width / 2) << "\" fill=\""
-             << color(palette_.runningColor()) << "\"/>\n";
+        out_ << "<circle cx=\"" << svgNumber(dot.x + dot.width / 2) << "\" cy=\""
+             << svgNumber(dot.y + dot.height / 2) << "\" r=\"" << svgNumber(dot.width / 2)
+             << "\" fill=\"" << color(palette_.runningColor()) << "\"/>\n";
       }
       if (view.visualState == KeyboardHUDKeyVisualState::invalid) {
         invalidMark(parts.invalidMark);
@@ -144,20 +107,20 @@ public:
     const double cy = frame.y + frame.height / 2;
     const double side = frame.width;
     const std::string stroke = "stroke=\"" + color(palette_.textColor()) + "\" stroke-opacity=\"" +
-                               number(palette_.secondaryTextOpacity()) + "\" stroke-width=\"" +
-                               number(side * 0.1) + "\"";
-    out_ << "<g aria-label=\"" << escaped(accessibilityLabel) << "\" role=\"button\">\n";
+                               svgNumber(palette_.secondaryTextOpacity()) + "\" stroke-width=\"" +
+                               svgNumber(side * 0.1) + "\"";
+    out_ << "<g aria-label=\"" << svgEscaped(accessibilityLabel) << "\" role=\"button\">\n";
     out_ << "<rect " << frameAttributes(frame) << " fill=\"none\"/>\n";
-    out_ << "<circle cx=\"" << number(cx) << "\" cy=\"" << number(cy) << "\" r=\""
-         << number(side * 0.22) << "\" fill=\"none\" " << stroke << "/>\n";
+    out_ << "<circle cx=\"" << svgNumber(cx) << "\" cy=\"" << svgNumber(cy) << "\" r=\""
+         << svgNumber(side * 0.22) << "\" fill=\"none\" " << stroke << "/>\n";
     for (int tooth = 0; tooth < 8; ++tooth) {
       const double angle = tooth * std::numbers::pi / 4;
       const double inner = side * 0.28;
       const double outer = side * 0.38;
-      out_ << "<line x1=\"" << number(cx + inner * std::cos(angle)) << "\" y1=\""
-           << number(cy + inner * std::sin(angle)) << "\" x2=\""
-           << number(cx + outer * std::cos(angle)) << "\" y2=\""
-           << number(cy + outer * std::sin(angle)) << "\" " << stroke
+      out_ << "<line x1=\"" << svgNumber(cx + inner * std::cos(angle)) << "\" y1=\""
+           << svgNumber(cy + inner * std::sin(angle)) << "\" x2=\""
+           << svgNumber(cx + outer * std::cos(angle)) << "\" y2=\""
+           << svgNumber(cy + outer * std::sin(angle)) << "\" " << stroke
            << " stroke-linecap=\"round\"/>\n";
     }
     out_ << "</g>\n";
@@ -168,7 +131,7 @@ public:
 private:
   std::string textFill(bool secondary) const {
     return " fill=\"" + color(palette_.textColor()) + "\" fill-opacity=\"" +
-           number(secondary ? palette_.secondaryTextOpacity() : palette_.textOpacity()) + "\"";
+           svgNumber(secondary ? palette_.secondaryTextOpacity() : palette_.textOpacity()) + "\"";
   }
 
   void icon(const KeyboardHUDKeyView& view, Rect frame) {
@@ -180,9 +143,9 @@ private:
     }
     // Raw pixels would need a PNG encoder; the placeholder stands in, as it does in the app
     // until an icon arrives.
-    out_ << "<rect " << frameAttributes(frame) << " rx=\"" << number(frame.width * 0.22)
+    out_ << "<rect " << frameAttributes(frame) << " rx=\"" << svgNumber(frame.width * 0.22)
          << "\" fill=\"" << color(palette_.textColor()) << "\" fill-opacity=\""
-         << number(palette_.placeholderOpacity()) << "\"/>\n";
+         << svgNumber(palette_.placeholderOpacity()) << "\"/>\n";
   }
 
   void invalidMark(Rect frame) {
@@ -192,18 +155,19 @@ private:
     const double right = frame.x + frame.width;
     const double bottom = frame.y + frame.height * 0.94;
     const double middle = frame.x + frame.width / 2;
-    out_ << "<path d=\"M" << number(middle) << " " << number(top) << " L" << number(right) << " "
-         << number(bottom) << " L" << number(left) << " " << number(bottom)
-         << " Z\" stroke-linejoin=\"round\" stroke-width=\"" << number(frame.width * 0.12)
+    out_ << "<path d=\"M" << svgNumber(middle) << " " << svgNumber(top) << " L" << svgNumber(right)
+         << " " << svgNumber(bottom) << " L" << svgNumber(left) << " " << svgNumber(bottom)
+         << " Z\" stroke-linejoin=\"round\" stroke-width=\"" << svgNumber(frame.width * 0.12)
          << "\" stroke=\"" << color(palette_.warningColor()) << "\" fill=\""
          << color(palette_.warningColor()) << "\"/>\n";
     const double bar = frame.width * 0.12;
-    out_ << "<rect x=\"" << number(middle - bar / 2) << "\" y=\""
-         << number(frame.y + frame.height * 0.36) << "\" width=\"" << number(bar) << "\" height=\""
-         << number(frame.height * 0.3) << "\" rx=\"" << number(bar / 2)
+    out_ << "<rect x=\"" << svgNumber(middle - bar / 2) << "\" y=\""
+         << svgNumber(frame.y + frame.height * 0.36) << "\" width=\"" << svgNumber(bar)
+         << "\" height=\"" << svgNumber(frame.height * 0.3) << "\" rx=\"" << svgNumber(bar / 2)
          << "\" fill=\"#FFFFFF\"/>\n";
-    out_ << "<circle cx=\"" << number(middle) << "\" cy=\"" << number(frame.y + frame.height * 0.8)
-         << "\" r=\"" << number(bar * 0.6) << "\" fill=\"#FFFFFF\"/>\n";
+    out_ << "<circle cx=\"" << svgNumber(middle) << "\" cy=\""
+         << svgNumber(frame.y + frame.height * 0.8) << "\" r=\"" << svgNumber(bar * 0.6)
+         << "\" fill=\"#FFFFFF\"/>\n";
   }
 
   const KeyboardHUDPalette& palette_;
@@ -225,25 +189,26 @@ std::string KeyboardHUDSVGWriter::write(const KeyboardHUDViewModel& model,
 
   Drawing drawing(palette, s);
   auto& out = drawing.out();
-  out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << number(size.width)
-      << "\" height=\"" << number(size.height) << "\" viewBox=\"0 0 " << number(size.width) << " "
-      << number(size.height) << "\" font-family=\"" << kFontFamily << "\">\n";
+  out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << svgNumber(size.width)
+      << "\" height=\"" << svgNumber(size.height) << "\" viewBox=\"0 0 " << svgNumber(size.width)
+      << " " << svgNumber(size.height) << "\" font-family=\"" << kFontFamily << "\">\n";
   // The classic blur-offset-flood recipe rather than feDropShadow, which fewer renderers know.
   out << "<defs>\n<filter id=\"hud-shadow\" x=\"-20%\" y=\"-20%\" width=\"140%\" "
          "height=\"150%\">\n<feGaussianBlur in=\"SourceAlpha\" stdDeviation=\""
-      << number(kShadowRadius * s / 2) << "\"/>\n<feOffset dx=\"0\" dy=\""
-      << number(kShadowOffset * s) << "\" result=\"offset\"/>\n"
-      << "<feFlood flood-color=\"#000000\" flood-opacity=\"" << number(kShadowOpacity)
+      << svgNumber(kShadowRadius * s / 2) << "\"/>\n<feOffset dx=\"0\" dy=\""
+      << svgNumber(kShadowOffset * s) << "\" result=\"offset\"/>\n"
+      << "<feFlood flood-color=\"#000000\" flood-opacity=\"" << svgNumber(kShadowOpacity)
       << "\"/>\n<feComposite in2=\"offset\" operator=\"in\"/>\n"
       << "<feMerge><feMergeNode/><feMergeNode in=\"SourceGraphic\"/></feMerge>\n"
       << "</filter>\n</defs>\n";
   out << "<rect " << frameAttributes(background) << " rx=\""
-      << number(KeyboardHUDLayout::kCornerRadius * s) << "\" fill=\"" << color(palette.panelBase)
-      << "\" fill-opacity=\"" << number(palette.panelBaseOpacity) << "\" stroke=\""
-      << color(palette.panelBorder) << "\" stroke-opacity=\"" << number(palette.panelBorderOpacity)
-      << "\" stroke-width=\"" << number(s) << "\" stroke-miterlimit=\"10\" "
+      << svgNumber(KeyboardHUDLayout::kCornerRadius * s) << "\" fill=\"" << color(palette.panelBase)
+      << "\" fill-opacity=\"" << svgNumber(palette.panelBaseOpacity) << "\" stroke=\""
+      << color(palette.panelBorder) << "\" stroke-opacity=\""
+      << svgNumber(palette.panelBorderOpacity) << "\" stroke-width=\"" << svgNumber(s)
+      << "\" stroke-miterlimit=\"10\" "
       << "filter=\"url(#hud-shadow)\"/>\n";
-  out << "<g opacity=\"" << number(fade.opacity) << "\">\n";
+  out << "<g opacity=\"" << svgNumber(fade.opacity) << "\">\n";
   for (const auto& row : builder.rows(model.current())) {
     for (const auto& view : row) {
       drawing.key(view, *KeyboardHUDLayout::keyFrame(view.key, metrics));

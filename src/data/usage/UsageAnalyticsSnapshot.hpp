@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/usage/StoredUsageState.hpp"
 #include "data/usage/UsageAnalyticsStoreError.hpp"
 #include "data/usage/UsageCategory.hpp"
 #include "data/usage/UsageDayKey.hpp"
@@ -43,6 +44,12 @@ struct UsageAnalyticsSnapshot {
   std::vector<UsageAppRow> allTimeAppRows;
   /// The last failure, for the page to describe.
   std::optional<UsageAnalyticsStoreError> persistenceError;
+
+  /// What `state` says about `windowDays` (sorted and distinct) and all time. Reads nothing
+  /// else, so a document can be shown without a store that might write it.
+  [[nodiscard]] static UsageAnalyticsSnapshot
+  make(const StoredUsageState& state, const std::vector<UsageDayKey>& windowDays,
+       std::optional<UsageAnalyticsStoreError> persistenceError = std::nullopt);
 
   [[nodiscard]] const std::vector<UsageAppRow>& appRows(UsageAnalyticsRange range) const {
     return range == UsageAnalyticsRange::last90Days ? last90DayAppRows : allTimeAppRows;

@@ -43,34 +43,6 @@ std::string_view text(const PropertyListValue::Data& bytes) {
   return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-bool moreUsed(const UsageAppRow& a, const UsageAppRow& b) {
-  // Compared as unsigned sums so that two saturated counts cannot overflow.
-  const auto total = [](const UsageAppRow& row) {
-    return static_cast<std::uint64_t>(row.successCount) +
-           static_cast<std::uint64_t>(row.failureCount);
-  };
-  if (total(a) != total(b)) {
-    return total(a) > total(b);
-  }
-  return std::tie(a.displayName, a.bundleIdentifier) < std::tie(b.displayName, b.bundleIdentifier);
-}
-
-std::vector<UsageAppRow> sortedRows(std::map<std::string, UsageAppRow, std::less<>> rows) {
-  std::vector<UsageAppRow> sorted;
-  sorted.reserve(rows.size());
-  for (auto& [bundleIdentifier, row] : rows) {
-    sorted.push_back(std::move(row));
-  }
-  std::sort(sorted.begin(), sorted.end(), moreUsed);
-  return sorted;
-}
-
-void add(std::int64_t& count, std::int64_t more) {
-  count = more > std::numeric_limits<std::int64_t>::max() - count
-              ? std::numeric_limits<std::int64_t>::max()
-              : count + more;
-}
-
 } // namespace
 
 /// Days taken out of the state by pruning, kept as map nodes so that putting them back neither
@@ -115,18 +87,25 @@ std::optional<UsageAnalyticsStore::Window> UsageAnalyticsStore::window() const {
     logger_.log(LogLevel::error, kLogCategory, localizer_.localized(kUsageCalendarDayFailedText));
     return std::nullopt;
   }
-  Window window{.startOfToday = *startOfToday, .today = UsageDayKey::from(*today), .days = {}};
-  window.days.reserve(kWindowDays);
+  return Window{.startOfToday = *startOfToday,
+                .today = UsageDayKey::from(*today),
+                .days = windowDays(calendar_, *startOfToday)};
+}
+
+std::vector<UsageDayKey> UsageAnalyticsStore::windowDays(const UsageCalendar& calendar,
+                                                         WallTime startOfToday) {
+  std::vector<UsageDayKey> days;
+  days.reserve(kWindowDays);
   for (int offset = 1 - kWindowDays; offset <= 0; ++offset) {
-    const auto moment = calendar_.addingDays(offset, *startOfToday);
-    if (const auto day = moment ? calendar_.day(*moment) : std::nullopt) {
-      window.days.push_back(UsageDayKey::from(*day));
+    const auto moment = calendar.addingDays(offset, startOfToday);
+    if (const auto day = moment ? calendar.day(*moment) : std::nullopt) {
+      days.push_back(UsageDayKey::from(*day));
     }
   }
   // Sorted and distinct whatever the calendar answered, for the lookups.
-  std::sort(window.days.begin(), window.days.end());
-  window.days.erase(std::unique(window.days.begin(), window.days.end()), window.days.end());
-  return window;
+  std::sort(days.begin(), days.end());
+  days.erase(std::unique(days.begin(), days.end()), days.end());
+  return days;
 }
 
 StoredUsageState UsageAnalyticsStore::emptyState() const {
@@ -323,42 +302,9 @@ void UsageAnalyticsStore::reset() {
 }
 
 UsageAnalyticsSnapshot UsageAnalyticsStore::snapshot() const {
-  UsageAnalyticsSnapshot snapshot{.lifetimeTotals = state_.totals,
-                                  .last90DayCategoryRows = {},
-                                  .last90DayAppRows = {},
-                                  .allTimeAppRows = {},
-                                  .persistenceError = lastError_};
-  std::map<std::string, UsageAppRow, std::less<>> rows;
-  if (const auto window = this->window()) {
-    snapshot.last90DayCategoryRows.reserve(window->days.size() * kUsageCategories.size());
-    for (const auto& day : window->days) {
-      const auto entry = state_.daily.find(day);
-      for (const auto category : kUsageCategories) {
-        snapshot.last90DayCategoryRows.push_back(
-            {day, category, entry == state_.daily.end() ? 0 : entry->second.totals[category]});
-      }
-      const auto apps = state_.appDaily.find(day);
-      if (apps == state_.appDaily.end()) {
-        continue;
-      }
-      for (const auto& [bundleIdentifier, app] : apps->second) {
-        auto& row = rows[bundleIdentifier];
-        row.bundleIdentifier = bundleIdentifier;
-        row.displayName = app.displayName; // the latest day's name wins
-        add(row.successCount, app.successCount);
-        add(row.failureCount, app.failureCount);
-      }
-    }
-  }
-  snapshot.last90DayAppRows = sortedRows(std::move(rows));
-
-  rows.clear();
-  for (const auto& [bundleIdentifier, app] : state_.apps) {
-    rows[bundleIdentifier] = {bundleIdentifier, app.displayName, app.successCount,
-                              app.failureCount};
-  }
-  snapshot.allTimeAppRows = sortedRows(std::move(rows));
-  return snapshot;
+  const auto window = this->window();
+  return UsageAnalyticsSnapshot::make(state_, window ? window->days : std::vector<UsageDayKey>{},
+                                      lastError_);
 }
 
 } // namespace quenby

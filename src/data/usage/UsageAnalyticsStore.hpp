@@ -64,6 +64,10 @@ public:
   void reset();
 
   [[nodiscard]] UsageAnalyticsSnapshot snapshot() const;
+  /// The days of the window that ends on the day starting at `startOfToday`, oldest first and
+  /// distinct; a day the calendar cannot produce is missing.
+  [[nodiscard]] static std::vector<UsageDayKey> windowDays(const UsageCalendar& calendar,
+                                                           WallTime startOfToday);
   [[nodiscard]] const UsageTotals& lifetimeTotals() const { return state_.totals; }
   [[nodiscard]] const StoredUsageState& state() const { return state_; }
   [[nodiscard]] const std::optional<UsageAnalyticsStoreError>& lastError() const {

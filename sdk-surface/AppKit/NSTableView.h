@@ -1,0 +1,34 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#import <AppKit/AppKitDefines.h>
+#import <AppKit/NSControl.h>
+#import <AppKit/NSTableColumn.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSTableView;
+
+@protocol NSTableViewDataSource <NSObject>
+@optional
+- (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView;
+@end
+
+@protocol NSTableViewDelegate <NSObject>
+@optional
+// A view-based table asks for each cell's view; nil leaves the cell empty.
+- (nullable NSView*)tableView:(NSTableView*)tableView
+           viewForTableColumn:(nullable NSTableColumn*)tableColumn
+                          row:(NSInteger)row;
+@end
+
+@interface NSTableView : NSControl
+- (void)addTableColumn:(NSTableColumn*)tableColumn;
+// Not retained.
+@property(nullable, weak) id<NSTableViewDataSource> dataSource;
+@property(nullable, weak) id<NSTableViewDelegate> delegate;
+- (void)reloadData;
+@end
+
+NS_ASSUME_NONNULL_END
