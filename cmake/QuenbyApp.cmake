@@ -103,9 +103,15 @@ target_link_libraries(Quenby PRIVATE
 set(QUENBY_CODESIGN_IDENTITY "-" CACHE STRING "codesign identity for Quenby.app (\"-\": ad hoc)")
 set(QUENBY_BUNDLE_IDENTIFIER com.brimfold.Quenby)
 find_program(QUENBY_CODESIGN codesign)
+# A Developer ID build is for notarisation, which requires the hardened runtime and a secure time
+# stamp; the time stamp needs Apple's server, so day-to-day identities go without both.
+set(QUENBY_CODESIGN_OPTIONS)
+if(QUENBY_CODESIGN_IDENTITY MATCHES "^Developer ID Application")
+  set(QUENBY_CODESIGN_OPTIONS --options runtime --timestamp)
+endif()
 if(QUENBY_CODESIGN)
   add_custom_command(TARGET Quenby POST_BUILD
-    COMMAND ${QUENBY_CODESIGN} --force --sign ${QUENBY_CODESIGN_IDENTITY}
+    COMMAND ${QUENBY_CODESIGN} --force --sign ${QUENBY_CODESIGN_IDENTITY} ${QUENBY_CODESIGN_OPTIONS}
             --identifier ${QUENBY_BUNDLE_IDENTIFIER} $<TARGET_BUNDLE_DIR:Quenby>
     COMMENT "Signing Quenby.app (identity ${QUENBY_CODESIGN_IDENTITY})"
     VERBATIM)
