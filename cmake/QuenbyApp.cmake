@@ -61,6 +61,14 @@ if(QUENBY_BUNDLE_VERSION STREQUAL "")
       WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
       OUTPUT_VARIABLE quenby_git_dir
       OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+    execute_process(
+      COMMAND ${GIT_EXECUTABLE} rev-parse --is-shallow-repository
+      WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+      OUTPUT_VARIABLE quenby_git_shallow
+      OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+    if(quenby_git_shallow STREQUAL "true")
+      message(WARNING "A shallow clone: CFBundleVersion counts only the commits fetched")
+    endif()
     # A commit or a checkout moves HEAD's log: configure again, so the number follows.
     if(EXISTS ${quenby_git_dir}/logs/HEAD)
       set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${quenby_git_dir}/logs/HEAD)
