@@ -1,5 +1,5 @@
 # Two commands for a newcomer: `make run` and `make test`. Both install what is missing first.
-.PHONY: run test deps build sanitize syntax-check bench format strings scenarios pictures clean
+.PHONY: run test app deps build sanitize syntax-check bench format strings scenarios pictures clean
 
 PRESET ?= release
 BUILD_DIR := build/$(PRESET)
@@ -21,6 +21,29 @@ endif
 
 test: build
 	@ctest --preset $(PRESET)
+
+# Quenby.app, signed: ad hoc by default, or with a certificate's identity, e.g.
+#   make app IDENTITY="Developer ID Application: Jane Doe (TEAMID)"
+# Off a Mac the app is cross-built against Apple's SDK where one is unpacked beside this checkout,
+# and only checked (nothing can sign or run it there).
+IDENTITY ?= -
+CROSS_BUILD := ../shared/tools/macos-cross-build
+SDK_CHECK := ../shared/tools/macos-sdk-check
+
+app: deps
+ifeq ($(shell uname -s),Darwin)
+	@cmake --preset $(PRESET) -DQUENBY_CODESIGN_IDENTITY="$(IDENTITY)" >/dev/null
+	@cmake --build --preset $(PRESET) --target Quenby
+	@codesign --verify --deep --strict --verbose=1 $(BUILD_DIR)/Quenby.app
+	@echo "$(abspath $(BUILD_DIR))/Quenby.app"
+else
+	@if [ -x $(CROSS_BUILD) ] && [ -x $(SDK_CHECK) ] && $(SDK_CHECK) --available >/dev/null 2>&1; then \
+	  $(CROSS_BUILD); \
+	else \
+	  echo "Quenby.app is built on a Mac: run make app there (no macOS SDK to cross-build against here)." >&2; \
+	  exit 1; \
+	fi
+endif
 
 # The suite again with AddressSanitizer and UndefinedBehaviorSanitizer.
 sanitize:

@@ -6,6 +6,7 @@
 #import <AppKit/NSFontDescriptor.h>
 #import <AppKit/NSGraphics.h>
 #import <Foundation/NSArray.h>
+#import <Foundation/NSBundle.h>
 #import <Foundation/NSDictionary.h>
 #import <Foundation/NSGeometry.h>
 #import <Foundation/NSString.h>
@@ -16,6 +17,7 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSImageRep;
 
 typedef NSString* NSImageHintKey;
+typedef NSString* NSImageName;
 
 NS_ENUM(NSUInteger, NSImageScaling){
     NSImageScaleProportionallyDown = 0,
@@ -61,6 +63,12 @@ NS_ENUM(NSUInteger, NSImageScaling){
           fraction:(CGFloat)requestedAlpha
     respectFlipped:(BOOL)respectContextIsFlipped
              hints:(nullable NSDictionary<NSImageHintKey, id>*)hints;
+@end
+
+// macOS 10.7: the named image resource of the bundle (any image type, e.g. .pdf or .png with its
+// @2x sibling), or nil; not cached by name, unlike +[NSImage imageNamed:].
+@interface NSBundle (NSBundleImageExtension)
+- (nullable NSImage*)imageForResource:(NSImageName)name;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -7,10 +7,11 @@
 
 namespace quenby {
 
-/// The status item's icon, drawn in code as a template image so that the menu bar tints it for
-/// its appearance (light, dark, highlighted): a keycap outline with a dot, and for `attention`
-/// the same keycap with a badge in its top right corner. Main thread only; each variant is made
-/// once and kept.
+/// The status item's icon: two template images that the build renders from resources/icons into
+/// the application bundle (a keycap with two opposed arrows, and for `attention` the same keycap
+/// with a badge in its top right corner), so that the menu bar tints them for its appearance
+/// (light, dark, highlighted). Main thread only; each variant is loaded once and kept. An image
+/// is nil only in a bundle built without its resources.
 class SystemMenuBarStatusImageProvider {
 public:
   SystemMenuBarStatusImageProvider();

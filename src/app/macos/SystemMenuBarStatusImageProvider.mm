@@ -1,57 +1,22 @@
 // The status item's template icons.
 //
-// Threading: main thread only (AppKit drawing).
+// Threading: main thread only (AppKit images).
 //
-// Lifetime: both images are made when the provider is and live as long as it does; AppKit calls
-// their drawing handlers whenever it needs a representation (each scale, each appearance).
+// Lifetime: both images are loaded from the main bundle when the provider is made and live as
+// long as it does; they are vector (PDF) images, so AppKit draws each scale from the same file.
 //
-// Guarantee: the images are templates, drawn in opaque black on clear, so the menu bar alone
-// decides their colour; the attention variant differs only by its badge.
+// Guarantee: the images are templates, so the menu bar alone decides their colour. The pictures
+// have one source, the SVGs under resources/icons: nothing here draws a second version of them.
 
 #import "app/macos/SystemMenuBarStatusImageProvider.h"
 
 namespace quenby {
 namespace {
 
-// Points, the menu bar's usual icon size.
-constexpr CGFloat kSide = 18;
-constexpr CGFloat kLineWidth = 1.5;
-constexpr CGFloat kCornerRadius = 3.5;
-constexpr CGFloat kDotDiameter = 3;
-constexpr CGFloat kBadgeDiameter = 6.5;
-
-void fillCircle(NSPoint centre, CGFloat diameter) {
-  [[NSBezierPath bezierPathWithOvalInRect:NSMakeRect(centre.x - diameter / 2,
-                                                     centre.y - diameter / 2, diameter, diameter)]
-      fill];
-}
-
-void drawIcon(NSRect bounds, bool withBadge) {
-  NSColor* ink = [NSColor colorWithWhite:0 alpha:1];
-  [ink setFill];
-  [ink setStroke];
-  // The keycap leaves the top right corner to the badge.
-  const NSRect cap = NSMakeRect(2.25, 2.25, 12.5, 12);
-  NSBezierPath* outline = [NSBezierPath bezierPathWithRoundedRect:cap
-                                                          xRadius:kCornerRadius
-                                                          yRadius:kCornerRadius];
-  outline.lineWidth = kLineWidth;
-  [outline stroke];
-  fillCircle(NSMakePoint(NSMidX(cap), NSMidY(cap)), kDotDiameter);
-  if (withBadge) {
-    fillCircle(
-        NSMakePoint(NSMaxX(bounds) - kBadgeDiameter / 2, NSMaxY(bounds) - kBadgeDiameter / 2),
-        kBadgeDiameter);
-  }
-}
-
-NSImage* makeImage(bool withBadge) {
-  NSImage* image = [NSImage imageWithSize:NSMakeSize(kSide, kSide)
-                                  flipped:NO
-                           drawingHandler:^BOOL(NSRect bounds) {
-                             drawIcon(bounds, withBadge);
-                             return YES;
-                           }];
+// Nil when the bundle lacks the resource.
+NSImage* loadTemplate(NSString* name) {
+  NSImage* image = [NSBundle.mainBundle imageForResource:name];
+  // Marked here rather than left to the file's name: the menu bar tints only templates.
   [image setTemplate:YES];
   return image;
 }
@@ -59,6 +24,7 @@ NSImage* makeImage(bool withBadge) {
 } // namespace
 
 SystemMenuBarStatusImageProvider::SystemMenuBarStatusImageProvider()
-    : normal_(makeImage(false)), attention_(makeImage(true)) {}
+    : normal_(loadTemplate(@"StatusItemTemplate")),
+      attention_(loadTemplate(@"StatusItemAttentionTemplate")) {}
 
 } // namespace quenby
