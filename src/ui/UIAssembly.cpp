@@ -2,11 +2,12 @@
 
 namespace quenby {
 
-UIAssembly::UIAssembly(const BasePlatform& /*base*/, const UIPlatform& platform,
-                       DataAssembly& /*data*/, ShortcutsAssembly& /*shortcuts*/,
-                       HUDAssembly& /*hud*/)
+UIAssembly::UIAssembly(const BasePlatform& base, const UIPlatform& platform, DataAssembly& /*data*/,
+                       ShortcutsAssembly& /*shortcuts*/, HUDAssembly& /*hud*/)
     : settingsWindow_(platform.settingsWindows->makeSettingsWindow(
           {.general = generalSettings_, .usage = usageSettings_})),
-      mappingEditor_(platform.mappingEditorWindows->makeMappingEditorWindow(mappingEditorModel_)) {}
+      mappingEditor_(platform.mappingEditorWindows->makeMappingEditorWindow(mappingEditorModel_)),
+      applicationInstaller_(platform.installer, *base.userDefaults, *base.localizer, *base.logger) {
+}
 
 } // namespace quenby
