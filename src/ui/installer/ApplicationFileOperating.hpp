@@ -9,7 +9,7 @@ namespace quenby {
 class ApplicationFileOperating {
 public:
   virtual ~ApplicationFileOperating() = default;
-  /// The running application's bundle; absent when it does not run from one.
+  /// The running application's bundle; a bare executable gives the folder that holds it.
   [[nodiscard]] virtual std::optional<std::string> runningBundlePath() const = 0;
   /// The user's home folder; empty when unknown.
   [[nodiscard]] virtual std::string homeDirectory() const = 0;

@@ -20,7 +20,8 @@ ApplicationInstaller::ApplicationInstaller(ApplicationInstallerPlatform platform
 
 void ApplicationInstaller::offerToMoveIfNeeded() {
   const auto bundlePath = platform_.files->runningBundlePath();
-  if (!bundlePath) {
+  // A bare executable (run from a build folder, say) has no bundle to move.
+  if (!bundlePath || !bundlePath->ends_with(".app")) {
     return;
   }
   const auto location =

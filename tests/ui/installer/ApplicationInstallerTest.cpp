@@ -133,11 +133,14 @@ TEST(ApplicationInstallerTest, AsksOnceAndOnlyFromOutsideTheApplicationsFolders)
     EXPECT_EQ(question.keepTitle, "Do Not Move");
   }
 
-  InstallerHarness outsideABundle;
-  outsideABundle.files->bundle.reset();
-  outsideABundle.offer();
-  EXPECT_THAT(outsideABundle.alerts->questions, IsEmpty());
-  EXPECT_FALSE(outsideABundle.offered());
+  for (const std::optional<std::string>& bundle :
+       {std::optional<std::string>(), std::optional<std::string>("/Users/ann/src/build")}) {
+    InstallerHarness outsideABundle;
+    outsideABundle.files->bundle = bundle;
+    outsideABundle.offer();
+    EXPECT_THAT(outsideABundle.alerts->questions, IsEmpty());
+    EXPECT_FALSE(outsideABundle.offered());
+  }
 
   InstallerHarness askedBefore;
   ASSERT_TRUE(askedBefore.defaults.setVerified(ApplicationInstaller::kOfferedKey, true));
