@@ -101,6 +101,7 @@ target_link_libraries(Quenby PRIVATE
   "-framework CoreServices"
   "-framework Foundation"
   "-framework QuartzCore"
+  "-framework Security"
   "-framework ServiceManagement")
 
 # The linker signs only the executable, under the executable's name. codesign seals the whole

@@ -8,7 +8,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSString;
+@class NSString, NSURL;
 
 @interface NSRunningApplication : NSObject
 // Nil for an application that has no Info.plist identifier.
@@ -17,6 +17,8 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly, getter=isTerminated) BOOL terminated;
 // The name the user sees; nil when the system does not know one.
 @property(nullable, readonly, copy) NSString* localizedName;
+// The bundle the application was launched from; nil when it has none.
+@property(nullable, readonly, copy) NSURL* bundleURL;
 // Nil when no application runs with that process identifier.
 + (nullable instancetype)runningApplicationWithProcessIdentifier:(pid_t)pid;
 // NO when the application refused (a full-screen application does).

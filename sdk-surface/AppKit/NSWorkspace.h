@@ -17,6 +17,8 @@ NS_ASSUME_NONNULL_BEGIN
 + (instancetype)configuration;
 // Whether the opened application comes to the front; YES by default.
 @property BOOL activates;
+// Launch another process even when the application already runs; NO by default.
+@property BOOL createsNewApplicationInstance;
 @end
 
 @interface NSWorkspace : NSObject

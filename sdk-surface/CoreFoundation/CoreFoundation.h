@@ -12,3 +12,4 @@
 #include <CoreFoundation/CFPreferences.h>
 #include <CoreFoundation/CFPropertyList.h>
 #include <CoreFoundation/CFRunLoop.h>
+#include <CoreFoundation/CFURL.h>

@@ -20,6 +20,7 @@
 #import <Foundation/NSObjCRuntime.h>
 #import <Foundation/NSObject.h>
 #import <Foundation/NSOperation.h>
+#import <Foundation/NSPathUtilities.h>
 #import <Foundation/NSPredicate.h>
 #import <Foundation/NSProcessInfo.h>
 #import <Foundation/NSRunLoop.h>

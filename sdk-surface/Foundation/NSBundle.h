@@ -11,6 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSBundle : NSObject
 @property(class, readonly, strong) NSBundle* mainBundle;
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
+// The bundle's folder; for a bare executable, the folder that holds it.
+@property(readonly, copy) NSString* bundlePath;
 - (NSString*)localizedStringForKey:(NSString*)key
                              value:(nullable NSString*)value
                              table:(nullable NSString*)tableName;

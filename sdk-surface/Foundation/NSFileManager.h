@@ -6,12 +6,21 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSString;
+@class NSError, NSString, NSURL;
 
 @interface NSFileManager : NSObject
 @property(class, readonly, strong) NSFileManager* defaultManager;
 // Follows a symbolic link at the end of the path; `isDirectory` may be NULL.
 - (BOOL)fileExistsAtPath:(NSString*)path isDirectory:(nullable BOOL*)isDirectory;
+// Copies a whole folder tree; fails when something already exists at `dstURL`.
+- (BOOL)copyItemAtURL:(NSURL*)srcURL toURL:(NSURL*)dstURL error:(NSError**)error;
+// Deletes at once, folders with everything in them.
+- (BOOL)removeItemAtURL:(NSURL*)URL error:(NSError**)error;
+// macOS 10.8. Moves the item to the Trash of its volume, renaming it there on a collision; NO
+// leaves it where it was.
+- (BOOL)trashItemAtURL:(NSURL*)url
+      resultingItemURL:(NSURL* _Nullable* _Nullable)outResultingURL
+                 error:(NSError**)error;
 @end
 
 NS_ASSUME_NONNULL_END

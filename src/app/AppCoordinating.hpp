@@ -11,6 +11,9 @@ public:
   virtual void start() = 0;
   virtual void stop() = 0;
   virtual void showSettings() = 0;
+  /// Offers to move the application into the Applications folder when it runs from elsewhere;
+  /// only while running.
+  virtual void offerToMoveToApplications() = 0;
   /// What the status item shows and where it sends commands; null when there is none, and
   /// once stopped.
   [[nodiscard]] virtual MenuBarExtraStore* menuBarExtra() = 0;

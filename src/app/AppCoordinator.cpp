@@ -1,5 +1,7 @@
 #include "app/AppCoordinator.hpp"
 
+#include "ui/installer/ApplicationInstaller.hpp"
+
 #include <utility>
 
 namespace quenby {
@@ -7,9 +9,9 @@ namespace quenby {
 AppCoordinator::AppCoordinator(AppRuntimeConfiguration configuration,
                                AppCoordinatorLifecycle lifecycle,
                                std::shared_ptr<void> retainedRuntime,
-                               MenuBarExtraStore* menuBarExtra)
+                               MenuBarExtraStore* menuBarExtra, ApplicationInstaller* installer)
     : lifecycle_(std::move(lifecycle)), retainedRuntime_(std::move(retainedRuntime)),
-      menuBarExtra_(menuBarExtra), configuration_(configuration) {}
+      menuBarExtra_(menuBarExtra), installer_(installer), configuration_(configuration) {}
 
 // The closures point into the runtime: drop them before the graph they reference.
 AppCoordinator::~AppCoordinator() { lifecycle_.reset(); }
@@ -61,6 +63,12 @@ void AppCoordinator::stop() {
 void AppCoordinator::showSettings() {
   if (state_ == State::running && lifecycle_) {
     lifecycle_->showSettings();
+  }
+}
+
+void AppCoordinator::offerToMoveToApplications() {
+  if (state_ == State::running && installer_ != nullptr) {
+    installer_->offerToMoveIfNeeded();
   }
 }
 

@@ -14,8 +14,9 @@ std::unique_ptr<AppCoordinator> makeAppCoordinator(PlatformServices services,
   }
   AppCoordinatorLifecycle lifecycle = graph->lifecycle();
   MenuBarExtraStore* menuBarExtra = &graph->menuBar().store();
+  ApplicationInstaller* installer = &graph->ui().applicationInstaller();
   return std::make_unique<AppCoordinator>(configuration, std::move(lifecycle), std::move(graph),
-                                          menuBarExtra);
+                                          menuBarExtra, installer);
 }
 
 } // namespace quenby

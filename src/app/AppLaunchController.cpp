@@ -23,6 +23,10 @@ void AppLaunchController::applicationDidFinishLaunching() {
     statusItemPresenter_ = makeStatusItemPresenter_(*store);
     statusItemPresenter_->install();
   }
+  // A test host's bundle is the test runner's, never ours to move.
+  if (launchContext_.includesMenuBarExtra) {
+    coordinator_->offerToMoveToApplications();
+  }
 }
 
 void AppLaunchController::applicationWillTerminate() {

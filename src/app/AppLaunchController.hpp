@@ -12,7 +12,8 @@ namespace quenby {
 
 /// The application delegate's decisions, kept out of the platform's delegate class so that they
 /// run under test: one coordinator per process, the status item only outside a test host and only
-/// over a coordinator that has a menu to show, and an orderly teardown.
+/// over a coordinator that has a menu to show, the offer to move into the Applications folder
+/// only outside a test host and after everything started, and an orderly teardown.
 class AppLaunchController {
 public:
   using CoordinatorFactory = std::function<std::unique_ptr<AppCoordinating>()>;

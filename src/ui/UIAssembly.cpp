@@ -7,6 +7,8 @@ UIAssembly::UIAssembly(const BasePlatform& base, const UIPlatform& platform, Dat
     : usageSettings_(data.usage(), *base.localizer),
       settingsWindow_(platform.settingsWindows->makeSettingsWindow(
           {.general = generalSettings_, .usage = usageSettings_})),
-      mappingEditor_(platform.mappingEditorWindows->makeMappingEditorWindow(mappingEditorModel_)) {}
+      mappingEditor_(platform.mappingEditorWindows->makeMappingEditorWindow(mappingEditorModel_)),
+      applicationInstaller_(platform.installer, *base.userDefaults, *base.localizer, *base.logger) {
+}
 
 } // namespace quenby

@@ -6,6 +6,7 @@
 #include "shortcuts/ShortcutsAssembly.hpp"
 #include "ui/UIPlatform.hpp"
 #include "ui/editor/MappingEditorViewModel.hpp"
+#include "ui/installer/ApplicationInstaller.hpp"
 #include "ui/settings/GeneralSettingsViewModel.hpp"
 #include "ui/settings/usage/UsageSettingsViewModel.hpp"
 
@@ -31,6 +32,9 @@ public:
   [[nodiscard]] GeneralSettingsViewModel& generalSettings() { return generalSettings_; }
   [[nodiscard]] UsageSettingsViewModel& usageSettings() { return usageSettings_; }
   [[nodiscard]] MappingEditorViewModel& mappingEditor() { return mappingEditorModel_; }
+  /// Created with the graph, with no start step: the launch asks it once, after the coordinator
+  /// has started.
+  [[nodiscard]] ApplicationInstaller& applicationInstaller() { return applicationInstaller_; }
 
 private:
   GeneralSettingsViewModel generalSettings_;
@@ -39,6 +43,7 @@ private:
   // After the view models they show.
   std::unique_ptr<SettingsWindowPresenting> settingsWindow_;
   std::unique_ptr<MappingEditorPresenting> mappingEditor_;
+  ApplicationInstaller applicationInstaller_;
 };
 
 } // namespace quenby

@@ -4,6 +4,7 @@
 #include "ui/animation/ShortcutAnimationPanelCreating.hpp"
 #include "ui/animation/ShortcutAnimationScreenProviding.hpp"
 #include "ui/editor/MappingEditorWindowMaking.hpp"
+#include "ui/installer/ApplicationInstallerPlatform.hpp"
 #include "ui/login/LaunchAtLoginServicing.hpp"
 #include "ui/settings/SettingsWindowMaking.hpp"
 
@@ -19,8 +20,11 @@ struct UIPlatform {
   std::shared_ptr<ShortcutAnimationPanelCreating> shortcutAnimationPanels;
   std::shared_ptr<ShortcutAnimationScreenProviding> shortcutAnimationScreens;
   std::shared_ptr<ShortcutAnimationMotionProviding> shortcutAnimationMotion;
+  /// Inert unless the platform fills it: only the application itself ever moves its bundle.
+  ApplicationInstallerPlatform installer = ApplicationInstallerPlatform::inert();
 
-  /// Windows that never open, no login item and an animation that never shows.
+  /// Windows that never open, no login item, an animation that never shows and an installer
+  /// that never asks.
   [[nodiscard]] static UIPlatform inert() {
     return {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
             .mappingEditorWindows = std::make_shared<InertMappingEditorWindowFactory>(),

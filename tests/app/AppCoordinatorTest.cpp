@@ -146,6 +146,7 @@ struct FakeCoordinator final : AppCoordinating {
   void start() override { calls.push_back("start"); }
   void stop() override { calls.push_back("stop"); }
   void showSettings() override { calls.push_back("showSettings"); }
+  void offerToMoveToApplications() override { calls.push_back("offerToMove"); }
   MenuBarExtraStore* menuBarExtra() override { return &store; }
   MenuBarExtraStore store;
 };
@@ -177,8 +178,8 @@ TEST(AppLaunchControllerTest, LaunchesOnceAndTearsDownStatusItemBeforeCoordinato
   controller.applicationWillTerminate();
   controller.applicationWillTerminate();
   controller.showSettings();
-  EXPECT_THAT(
-      calls, ElementsAre("make coordinator", "start", "install", "showSettings", "remove", "stop"));
+  EXPECT_THAT(calls, ElementsAre("make coordinator", "start", "install", "offerToMove",
+                                 "showSettings", "remove", "stop"));
 }
 
 TEST(AppLaunchControllerTest, UnderATestHostStartsTheCoordinatorWithoutAStatusItem) {

@@ -15,6 +15,11 @@
 #include "ui/animation/macos/SystemShortcutAnimationMotionProvider.hpp"
 #include "ui/animation/macos/SystemShortcutAnimationPanelFactory.hpp"
 #include "ui/animation/macos/SystemShortcutAnimationScreenProvider.hpp"
+#include "ui/installer/macos/AlertApplicationInstallerPrompter.hpp"
+#include "ui/installer/macos/SystemApplicationFileOperations.hpp"
+#include "ui/installer/macos/SystemApplicationSignatureVerifier.hpp"
+#include "ui/installer/macos/WorkspaceApplicationRelauncher.hpp"
+#include "ui/login/macos/SystemLaunchAtLoginService.hpp"
 
 #include <memory>
 #include <utility>
@@ -38,10 +43,15 @@ PlatformServices makeLivePlatformServices() {
       // The windows come with their own change; until then Settings and the editor open nothing.
       .ui = {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
              .mappingEditorWindows = std::make_shared<InertMappingEditorWindowFactory>(),
-             .launchAtLogin = std::make_shared<InertLaunchAtLoginService>(),
+             .launchAtLogin = std::make_shared<SystemLaunchAtLoginService>(),
              .shortcutAnimationPanels = std::make_shared<SystemShortcutAnimationPanelFactory>(),
              .shortcutAnimationScreens = std::make_shared<SystemShortcutAnimationScreenProvider>(),
-             .shortcutAnimationMotion = std::make_shared<SystemShortcutAnimationMotionProvider>()},
+             .shortcutAnimationMotion = std::make_shared<SystemShortcutAnimationMotionProvider>(),
+             .installer = {.files = std::make_shared<SystemApplicationFileOperations>(),
+                           .signatureVerifier =
+                               std::make_shared<SystemApplicationSignatureVerifier>(),
+                           .relauncher = std::make_shared<WorkspaceApplicationRelauncher>(),
+                           .alerts = std::make_shared<AlertApplicationInstallerPrompter>()}},
   };
 }
 

@@ -1,0 +1,7 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#include <CoreFoundation/CFBase.h>
+
+typedef const struct CF_BRIDGED_TYPE(NSURL) __CFURL* CFURLRef;

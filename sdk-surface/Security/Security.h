@@ -1,0 +1,7 @@
+// Declarations for syntax-checking the macOS layer without an Apple SDK, written from Apple's
+// documentation. Not Apple's header: only what the .mm files use.
+#pragma once
+
+#include <Security/CSCommon.h>
+#include <Security/SecBase.h>
+#include <Security/SecStaticCode.h>
