@@ -32,3 +32,6 @@ typedef long NSInteger;
 typedef unsigned long NSUInteger;
 
 typedef struct _NSZone NSZone;
+
+@class NSString;
+FOUNDATION_EXPORT Class _Nullable NSClassFromString(NSString* _Nonnull aClassName);
