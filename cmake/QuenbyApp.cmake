@@ -34,7 +34,8 @@ target_link_libraries(Quenby PRIVATE
   "-framework CoreServices"
   "-framework Foundation"
   "-framework QuartzCore"
-  "-framework ServiceManagement")
+  "-framework ServiceManagement"
+  "-framework UniformTypeIdentifiers")
 
 # The linker signs only the executable, under the executable's name. codesign seals the whole
 # bundle (Info.plist and resources included) under the bundle identifier, which is what the

@@ -13,6 +13,8 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nullable, copy) NSFont* font;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
+@property(copy) NSString* stringValue;
+@property(getter=isEnabled) BOOL enabled;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -15,11 +15,13 @@
 #import <Foundation/NSError.h>
 #import <Foundation/NSFileManager.h>
 #import <Foundation/NSGeometry.h>
+#import <Foundation/NSIndexSet.h>
 #import <Foundation/NSMetadata.h>
 #import <Foundation/NSNotification.h>
 #import <Foundation/NSObjCRuntime.h>
 #import <Foundation/NSObject.h>
 #import <Foundation/NSOperation.h>
+#import <Foundation/NSPathUtilities.h>
 #import <Foundation/NSPredicate.h>
 #import <Foundation/NSProcessInfo.h>
 #import <Foundation/NSRunLoop.h>
