@@ -5,6 +5,7 @@
 #include "shortcuts/catalog/BundleApplicationMetadataReader.hpp"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quenby {

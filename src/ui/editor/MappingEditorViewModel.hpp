@@ -10,6 +10,7 @@
 #include "ui/editor/ApplicationPicker.hpp"
 #include "ui/editor/MappingEditorFilePanels.hpp"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
