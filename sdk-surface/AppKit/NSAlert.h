@@ -9,7 +9,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSButton;
+@class NSButton, NSWindow;
 
 // What runModal answers for the buttons, in the order they were added.
 static const NSModalResponse NSAlertFirstButtonReturn = 1000;
@@ -29,6 +29,9 @@ typedef NS_ENUM(NSUInteger, NSAlertStyle) {
 - (NSButton*)addButtonWithTitle:(NSString*)title;
 // Runs the alert's own modal loop and returns once the user answered.
 - (NSModalResponse)runModal;
+// Shows the alert as a sheet of `sheetWindow` and returns at once; the handler gets the answer.
+- (void)beginSheetModalForWindow:(NSWindow*)sheetWindow
+               completionHandler:(void (^_Nullable)(NSModalResponse returnCode))handler;
 @end
 
 NS_ASSUME_NONNULL_END

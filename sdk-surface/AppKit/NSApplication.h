@@ -13,6 +13,8 @@ NS_ASSUME_NONNULL_BEGIN
 APPKIT_EXTERN __kindof NSApplication* _Null_unspecified NSApp;
 
 typedef NSInteger NSModalResponse;
+static const NSModalResponse NSModalResponseOK = 1;
+static const NSModalResponse NSModalResponseCancel = 0;
 
 NS_ENUM(NSInteger, NSApplicationActivationPolicy){
     NSApplicationActivationPolicyRegular = 0,

@@ -11,6 +11,9 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSColor;
 
 @interface NSButton : NSControl
++ (instancetype)buttonWithTitle:(NSString*)title
+                         target:(nullable id)target
+                         action:(nullable SEL)action;
 // macOS 10.12.
 + (instancetype)buttonWithImage:(NSImage*)image
                          target:(nullable id)target

@@ -14,6 +14,7 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
 @property(copy) NSString* stringValue;
+@property(getter=isEnabled) BOOL enabled;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -5,10 +5,11 @@
 #import <AppKit/AppKitDefines.h>
 #import <AppKit/NSControl.h>
 #import <AppKit/NSTableColumn.h>
+#import <Foundation/NSNotification.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSTableView;
+@class NSIndexSet, NSTableHeaderView, NSTableView;
 
 @protocol NSTableViewDataSource <NSObject>
 @optional
@@ -21,6 +22,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (nullable NSView*)tableView:(NSTableView*)tableView
            viewForTableColumn:(nullable NSTableColumn*)tableColumn
                           row:(NSInteger)row;
+- (void)tableViewSelectionDidChange:(NSNotification*)notification;
 @end
 
 @interface NSTableView : NSControl
@@ -28,7 +30,15 @@ NS_ASSUME_NONNULL_BEGIN
 // Not retained.
 @property(nullable, weak) id<NSTableViewDataSource> dataSource;
 @property(nullable, weak) id<NSTableViewDelegate> delegate;
+@property(nullable, strong) NSTableHeaderView* headerView;
+@property CGFloat rowHeight;
+@property BOOL usesAlternatingRowBackgroundColors;
+@property BOOL allowsEmptySelection;
+@property(nullable) SEL doubleAction;
+@property(readonly) NSInteger selectedRow;
 - (void)reloadData;
+- (void)selectRowIndexes:(NSIndexSet*)indexes byExtendingSelection:(BOOL)extend;
+- (void)scrollRowToVisible:(NSInteger)row;
 @end
 
 NS_ASSUME_NONNULL_END

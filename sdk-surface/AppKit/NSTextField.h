@@ -15,6 +15,7 @@ NS_ASSUME_NONNULL_BEGIN
 + (instancetype)wrappingLabelWithString:(NSString*)stringValue;
 // A single-line label in the system font (macOS 10.12).
 + (instancetype)labelWithString:(NSString*)stringValue;
+@property(nullable, copy) NSString* placeholderString;
 @property(getter=isSelectable) BOOL selectable;
 @property(nullable, copy) NSColor* textColor;
 @property CGFloat preferredMaxLayoutWidth;

@@ -14,7 +14,10 @@ NS_ASSUME_NONNULL_BEGIN
 typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
   NSViewMinXMargin = 1,
   NSViewWidthSizable = 2,
+  NSViewMaxXMargin = 4,
+  NSViewMinYMargin = 8,
   NSViewHeightSizable = 16,
+  NSViewMaxYMargin = 32,
 };
 
 @interface NSView : NSResponder

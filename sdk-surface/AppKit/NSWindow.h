@@ -16,6 +16,8 @@ typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskBorderless = 0,
   NSWindowStyleMaskTitled = 1 << 0,
   NSWindowStyleMaskClosable = 1 << 1,
+  NSWindowStyleMaskMiniaturizable = 1 << 2,
+  NSWindowStyleMaskResizable = 1 << 3,
   NSWindowStyleMaskNonactivatingPanel = 1 << 7,
 };
 
@@ -44,6 +46,14 @@ typedef NS_ENUM(NSInteger, NSWindowAnimationBehavior) {
 @property BOOL hidesOnDeactivate;
 @property NSWindowCollectionBehavior collectionBehavior;
 - (void)setContentSize:(NSSize)size;
+@property NSSize minSize;
+typedef NSString* NSWindowFrameAutosaveName;
+// Restores the frame saved under `name`, if any, and saves every later change under it.
+- (BOOL)setFrameAutosaveName:(NSWindowFrameAutosaveName)name;
+- (void)beginSheet:(NSWindow*)sheetWindow
+    completionHandler:(void (^_Nullable)(NSModalResponse returnCode))handler;
+- (void)endSheet:(NSWindow*)sheetWindow;
+- (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
 - (void)center;
 - (void)makeKeyAndOrderFront:(nullable id)sender;
 // Orders the window front even when its application is not active.

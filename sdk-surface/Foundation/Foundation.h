@@ -15,6 +15,7 @@
 #import <Foundation/NSError.h>
 #import <Foundation/NSFileManager.h>
 #import <Foundation/NSGeometry.h>
+#import <Foundation/NSIndexSet.h>
 #import <Foundation/NSMetadata.h>
 #import <Foundation/NSNotification.h>
 #import <Foundation/NSObjCRuntime.h>

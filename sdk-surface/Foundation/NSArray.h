@@ -9,6 +9,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSArray<__covariant ObjectType> : NSObject <NSCopying, NSFastEnumeration>
 @property(readonly) NSUInteger count;
+@property(nullable, readonly) ObjectType firstObject;
 // Array literals are built with this.
 + (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)cnt;
 // Subscripting (array[i]) is sent as this.

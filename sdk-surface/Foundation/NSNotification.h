@@ -11,6 +11,7 @@ NS_ASSUME_NONNULL_BEGIN
 typedef NSString* NSNotificationName;
 
 @interface NSNotification : NSObject <NSCopying>
+@property(nullable, readonly, retain) id object;
 @end
 
 @interface NSNotificationCenter : NSObject

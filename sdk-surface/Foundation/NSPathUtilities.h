@@ -8,7 +8,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 @class NSString;
 
-// The current user's home folder.
+// The current user's home folder (the container's, for a sandboxed application).
 FOUNDATION_EXPORT NSString* NSHomeDirectory(void);
 
 NS_ASSUME_NONNULL_END

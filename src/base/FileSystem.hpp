@@ -35,6 +35,10 @@ public:
   /// The absolute path of the item itself, every symbolic link, "." and ".." resolved; absent
   /// when a component does not exist or cannot be searched.
   [[nodiscard]] virtual std::optional<std::string> canonicalPath(const std::string& path) const = 0;
+  /// Replaces the file at `path` with `bytes` all at once: a reader sees the old file or the
+  /// whole new one, never a part. False when it could not be written; the old file then stays.
+  [[nodiscard]] virtual bool writeFileAtomically(const std::string& path,
+                                                 const std::vector<std::uint8_t>& bytes) = 0;
 };
 
 } // namespace quenby

@@ -1,6 +1,7 @@
 #include "base/PosixFileSystem.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
@@ -107,6 +108,41 @@ std::optional<std::string> PosixFileSystem::canonicalPath(const std::string& pat
     return std::nullopt;
   }
   return std::string(resolved.get());
+}
+
+bool PosixFileSystem::writeFileAtomically(const std::string& path,
+                                          const std::vector<std::uint8_t>& bytes) {
+  // A temporary file beside the target, so the rename stays on one volume and replaces it in
+  // one step.
+  const auto slash = path.find_last_of('/');
+  const std::string directory = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+  const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+  std::string temporary = directory + "." + name + ".XXXXXX";
+  FileDescriptor file(::mkstemp(temporary.data()));
+  if (file.fd < 0) {
+    return false;
+  }
+  // mkstemp creates the file readable by its owner only; a saved document is as readable as
+  // any other the user saves under the default mask.
+  bool written = ::fchmod(file.fd, 0644) == 0;
+  for (std::size_t offset = 0; written && offset < bytes.size();) {
+    const auto count = ::write(file.fd, bytes.data() + offset, bytes.size() - offset);
+    if (count < 0 && errno == EINTR) {
+      continue;
+    }
+    written = count > 0;
+    offset += written ? static_cast<std::size_t>(count) : 0;
+  }
+  written = written && ::fsync(file.fd) == 0;
+  if (::close(file.fd) != 0) {
+    written = false;
+  }
+  file.fd = -1;
+  if (!written || ::rename(temporary.c_str(), path.c_str()) != 0) {
+    ::unlink(temporary.c_str());
+    return false;
+  }
+  return true;
 }
 
 } // namespace quenby

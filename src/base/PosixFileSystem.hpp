@@ -12,6 +12,8 @@ public:
   readFile(const std::string& path, std::uint64_t maximumBytes) const override;
   [[nodiscard]] std::vector<std::string> listDirectory(const std::string& path) const override;
   [[nodiscard]] std::optional<std::string> canonicalPath(const std::string& path) const override;
+  [[nodiscard]] bool writeFileAtomically(const std::string& path,
+                                         const std::vector<std::uint8_t>& bytes) override;
 };
 
 } // namespace quenby

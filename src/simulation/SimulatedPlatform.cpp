@@ -17,6 +17,7 @@
 #include "simulation/SimulatedShortcutAnimationSystem.hpp"
 #include "simulation/SimulatedWindowPlacementSnapshotProvider.hpp"
 #include "simulation/SimulatedWorkspaceAdapters.hpp"
+#include "ui/editor/InstalledApplicationCatalog.hpp"
 
 namespace quenby {
 namespace {
@@ -123,6 +124,9 @@ SimulatedProcess makeSimulatedProcess(SimulatedWorld& world,
               .ui = {.settingsWindows = std::make_shared<SimulatedSettingsWindowFactory>(recorder),
                      .mappingEditorWindows =
                          std::make_shared<SimulatedMappingEditorFactory>(recorder),
+                     .mappingEditorFilePanels = std::make_shared<InertMappingEditorFilePanels>(),
+                     .applicationFolders = InstalledApplicationCatalog::standardFolders(
+                         FileURL::fromPath(world.diskRoot()), FileURL::fromPath("/Users/user")),
                      .launchAtLogin = std::make_shared<InertLaunchAtLoginService>(),
                      .shortcutAnimationPanels =
                          std::make_shared<SimulatedShortcutAnimationPanelFactory>(recorder),

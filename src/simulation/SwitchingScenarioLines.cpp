@@ -56,22 +56,48 @@ void systemShortcutLine(ScenarioContext& context, const Arguments& arguments) {
        .name = arguments.size() == 4 ? arguments[3] : std::string()});
 }
 
+char parseLetter(const AppRuntime& runtime, const std::string& text) {
+  const auto letter = LetterMappingRecord::normalizedLetter(text);
+  if (!letter) {
+    throw ScenarioLineError{
+        KeyboardMappingStoreError::invalidLetter(text).message(*runtime.platform().base.localizer)};
+  }
+  return *letter;
+}
+
+// Through the editor, as a person would: moving an application off another letter asks first,
+// and the script's queued alert answer decides.
 void assignLine(ScenarioContext& context, const Arguments& arguments) {
   expectArgumentCount(arguments, 3, 3, "assign LETTER PATH");
   const auto runtime = context.requireRuntime("assign");
-  const auto assigned = runtime->shortcuts().letterStore().setLetterMapping(
-      arguments[1], context.diskURL(arguments[2]));
-  if (!assigned) {
-    throw ScenarioLineError{assigned.error().message(*runtime->platform().base.localizer)};
+  MappingEditorViewModel& editor = runtime->ui().mappingEditor();
+  editor.assign(parseLetter(*runtime, arguments[1]), context.diskURL(arguments[2]));
+  if (const auto& confirmation = editor.moveConfirmation()) {
+    auto& answers = context.world().alertAnswers();
+    const bool move = !answers.empty() && answers.front();
+    if (!answers.empty()) {
+      answers.pop_front();
+    }
+    context.recorder().emit(
+        "alert", {{"message", confirmation->message}, {"answer", move ? "continue" : "cancel"}});
+    if (move) {
+      editor.confirmMove();
+    } else {
+      editor.cancelMove();
+    }
+  }
+  if (!editor.errorText().empty()) {
+    throw ScenarioLineError{editor.errorText()};
   }
 }
 
 void unassignLine(ScenarioContext& context, const Arguments& arguments) {
   expectArgumentCount(arguments, 2, 2, "unassign LETTER");
   const auto runtime = context.requireRuntime("unassign");
-  const auto removed = runtime->shortcuts().letterStore().removeLetterMapping(arguments[1]);
-  if (!removed) {
-    throw ScenarioLineError{removed.error().message(*runtime->platform().base.localizer)};
+  MappingEditorViewModel& editor = runtime->ui().mappingEditor();
+  editor.remove(parseLetter(*runtime, arguments[1]));
+  if (!editor.errorText().empty()) {
+    throw ScenarioLineError{editor.errorText()};
   }
 }
 

@@ -5,6 +5,7 @@
 #include "hud/HUDAssembly.hpp"
 #include "shortcuts/ShortcutsAssembly.hpp"
 #include "ui/UIPlatform.hpp"
+#include "ui/editor/InstalledApplicationCatalog.hpp"
 #include "ui/editor/MappingEditorViewModel.hpp"
 #include "ui/installer/ApplicationInstaller.hpp"
 #include "ui/settings/GeneralSettingsViewModel.hpp"
@@ -26,7 +27,10 @@ public:
   void showSettings() { settingsWindow_->show(); }
   void closeSettings() { settingsWindow_->close(); }
   /// `letter` is upper case, 'A'–'Z'.
-  void openMappingEditor(char letter) { mappingEditor_->open(letter); }
+  void openMappingEditor(char letter) {
+    mappingEditorModel_.open(letter);
+    mappingEditor_->open(letter);
+  }
   void closeMappingEditor() { mappingEditor_->close(); }
 
   [[nodiscard]] GeneralSettingsViewModel& generalSettings() { return generalSettings_; }
@@ -37,6 +41,10 @@ public:
   [[nodiscard]] ApplicationInstaller& applicationInstaller() { return applicationInstaller_; }
 
 private:
+  // The editor's own reader: what it learns about bundles the user points at is no concern of
+  // the resolver's.
+  BundleApplicationMetadataReader editorMetadataReader_;
+  InstalledApplicationCatalog installedApplications_;
   GeneralSettingsViewModel generalSettings_;
   UsageSettingsViewModel usageSettings_;
   MappingEditorViewModel mappingEditorModel_;

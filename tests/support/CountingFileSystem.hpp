@@ -34,6 +34,11 @@ public:
     return real_.canonicalPath(path);
   }
 
+  [[nodiscard]] bool writeFileAtomically(const std::string& path,
+                                         const std::vector<std::uint8_t>& bytes) override {
+    return real_.writeFileAtomically(path, bytes);
+  }
+
   /// The calls made while `action` ran.
   template <typename F> Calls during(F action) const {
     const Calls before = calls;

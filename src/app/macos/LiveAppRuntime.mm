@@ -15,12 +15,16 @@
 #include "ui/animation/macos/SystemShortcutAnimationMotionProvider.hpp"
 #include "ui/animation/macos/SystemShortcutAnimationPanelFactory.hpp"
 #include "ui/animation/macos/SystemShortcutAnimationScreenProvider.hpp"
+#include "ui/editor/InstalledApplicationCatalog.hpp"
+#include "ui/editor/macos/SystemMappingEditorFilePanels.hpp"
+#include "ui/editor/macos/SystemMappingEditorWindowFactory.hpp"
 #include "ui/installer/macos/AlertApplicationInstallerPrompter.hpp"
 #include "ui/installer/macos/SystemApplicationFileOperations.hpp"
 #include "ui/installer/macos/SystemApplicationSignatureVerifier.hpp"
 #include "ui/installer/macos/WorkspaceApplicationRelauncher.hpp"
 #include "ui/login/macos/SystemLaunchAtLoginService.hpp"
 
+#import <Foundation/Foundation.h>
 #include <memory>
 #include <utility>
 
@@ -40,9 +44,12 @@ PlatformServices makeLivePlatformServices() {
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),
                .calendar = std::make_shared<SystemUsageCalendar>()},
       .hud = makeLiveHUDPlatform(),
-      // The windows come with their own change; until then Settings and the editor open nothing.
+      // The Settings window comes with its own change; until then it opens nothing.
       .ui = {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
-             .mappingEditorWindows = std::make_shared<InertMappingEditorWindowFactory>(),
+             .mappingEditorWindows = std::make_shared<SystemMappingEditorWindowFactory>(),
+             .mappingEditorFilePanels = std::make_shared<SystemMappingEditorFilePanels>(),
+             .applicationFolders = InstalledApplicationCatalog::standardFolders(
+                 FileURL(), FileURL::fromPath(NSHomeDirectory().UTF8String)),
              .launchAtLogin = std::make_shared<SystemLaunchAtLoginService>(),
              .shortcutAnimationPanels = std::make_shared<SystemShortcutAnimationPanelFactory>(),
              .shortcutAnimationScreens = std::make_shared<SystemShortcutAnimationScreenProvider>(),

@@ -172,6 +172,27 @@ KeyboardMappingStore::setLetterMapping(std::string_view letterText, const FileUR
   return mapping(record);
 }
 
+Expected<std::size_t, KeyboardMappingStoreError>
+KeyboardMappingStore::mergeLetterMappings(const std::vector<LetterMappingRecord>& incoming) {
+  auto records = records_;
+  for (auto record : incoming) {
+    std::erase_if(records, [&](const auto& entry) {
+      return entry.first != record.letter &&
+             sameApplication(entry.second.bundleIdentifier, record.bundleIdentifier);
+    });
+    record.catalogResolvedURL =
+        resolver_.resolve(record.bundleIdentifier, record.lastKnownURL).resolvedURL();
+    records.insert_or_assign(record.letter, std::move(record));
+  }
+  if (!save(records)) {
+    return Unexpected{KeyboardMappingStoreError::notSaved()};
+  }
+  records_ = std::move(records);
+  pendingRecordsChange_ = true;
+  drainMappingChanges();
+  return incoming.size();
+}
+
 Expected<bool, KeyboardMappingStoreError>
 KeyboardMappingStore::removeLetterMapping(std::string_view letterText) {
   const auto letter = LetterMappingRecord::normalizedLetter(letterText);

@@ -61,6 +61,13 @@ public:
   /// changed, in memory or stored.
   Expected<AppMapping, KeyboardMappingStoreError> setLetterMapping(std::string_view letter,
                                                                    const FileURL& application);
+  /// Adds repaired records from elsewhere (another Mac's export) without reading their bundles,
+  /// which need not be installed here: each takes its letter, and its application leaves any
+  /// other letter, as an assignment would; letters the records do not name keep theirs. The
+  /// records must hold one letter and one application each. Where each application is now is
+  /// asked of the resolver. On an error nothing changed.
+  Expected<std::size_t, KeyboardMappingStoreError>
+  mergeLetterMappings(const std::vector<LetterMappingRecord>& incoming);
   /// Removes the letter's mapping and stores the result. True when there was one.
   Expected<bool, KeyboardMappingStoreError> removeLetterMapping(std::string_view letter);
 

@@ -182,6 +182,40 @@ TEST_F(KeyboardMappingStoreAssignmentTest, AssigningMovesAnApplicationAndPublish
   EXPECT_EQ(published.size(), 4u);
 }
 
+TEST_F(KeyboardMappingStoreAssignmentTest, MergedRecordsTakeTheirLettersWithoutReadingBundles) {
+  const auto store = makeStore();
+  ASSERT_TRUE(store->setLetterMapping("M", mail));
+  ASSERT_TRUE(store->setLetterMapping("N", notes));
+  resolver.answers.emplace("com.example.safari", ApplicationResolution::notFound());
+  const auto record = [](char letter, std::string bundle, std::string path) {
+    return LetterMappingRecord{.letter = letter,
+                               .bundleIdentifier = std::move(bundle),
+                               .displayName = "Imported",
+                               .lastKnownURL = FileURL::fromPath(path),
+                               .catalogResolvedURL = FileURL::fromPath("/Elsewhere/Old.app")};
+  };
+
+  // Mail moves from M to K; Safari is not installed here; N is not named and keeps Notes.
+  const auto merged =
+      store->mergeLetterMappings({record('K', "COM.example.MAIL", "/Applications/Mail.app"),
+                                  record('S', "com.example.safari", "/Applications/Safari.app")});
+  ASSERT_TRUE(merged);
+  EXPECT_EQ(*merged, 2u);
+  EXPECT_EQ(letters(store->snapshot()), "K=COM.example.MAIL N=com.example.notes "
+                                        "S=com.example.safari ");
+  EXPECT_EQ(store->snapshot().letterMappings.at('S').resolution, ApplicationResolution::notFound());
+  // Where another Mac found the bundle means nothing here: the resolver's answer is kept.
+  EXPECT_EQ(store->records().front().catalogResolvedURL,
+            FileURL::fromPath("/Applications/Mail.app"));
+  EXPECT_EQ(store->records().back().catalogResolvedURL, std::nullopt);
+  EXPECT_EQ(makeStore()->records(), store->records());
+
+  defaults.droppedKeys.insert("letterMappings.v1");
+  const auto before = store->snapshot();
+  EXPECT_FALSE(store->mergeLetterMappings({record('A', "com.example.a", "/A.app")}));
+  EXPECT_EQ(store->snapshot(), before);
+}
+
 TEST_F(KeyboardMappingStoreAssignmentTest, RefusedAssignmentsChangeNothing) {
   const auto store = makeStore();
   ASSERT_TRUE(store->setLetterMapping("M", mail));
