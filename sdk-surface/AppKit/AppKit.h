@@ -12,6 +12,7 @@
 #import <AppKit/NSBezierPath.h>
 #import <AppKit/NSBitmapImageRep.h>
 #import <AppKit/NSButton.h>
+#import <AppKit/NSCell.h>
 #import <AppKit/NSColor.h>
 #import <AppKit/NSColorSpace.h>
 #import <AppKit/NSControl.h>
@@ -20,6 +21,7 @@
 #import <AppKit/NSFontDescriptor.h>
 #import <AppKit/NSGraphics.h>
 #import <AppKit/NSGraphicsContext.h>
+#import <AppKit/NSGridView.h>
 #import <AppKit/NSImage.h>
 #import <AppKit/NSImageRep.h>
 #import <AppKit/NSLayoutConstraint.h>
@@ -27,6 +29,7 @@
 #import <AppKit/NSMenuItem.h>
 #import <AppKit/NSPanel.h>
 #import <AppKit/NSParagraphStyle.h>
+#import <AppKit/NSPopUpButton.h>
 #import <AppKit/NSResponder.h>
 #import <AppKit/NSRunningApplication.h>
 #import <AppKit/NSScreen.h>
@@ -36,10 +39,13 @@
 #import <AppKit/NSStatusBarButton.h>
 #import <AppKit/NSStatusItem.h>
 #import <AppKit/NSStringDrawing.h>
+#import <AppKit/NSTabViewController.h>
+#import <AppKit/NSTabViewItem.h>
 #import <AppKit/NSText.h>
 #import <AppKit/NSTextField.h>
 #import <AppKit/NSUserInterfaceLayout.h>
 #import <AppKit/NSView.h>
+#import <AppKit/NSViewController.h>
 #import <AppKit/NSWindow.h>
 #import <AppKit/NSWorkspace.h>
 #import <Foundation/Foundation.h>

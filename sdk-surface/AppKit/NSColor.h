@@ -10,6 +10,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSColor : NSObject <NSCopying>
 @property(class, strong, readonly) NSColor* secondaryLabelColor;
+@property(class, strong, readonly) NSColor* systemOrangeColor;
 @property(class, strong, readonly) NSColor* whiteColor;
 + (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
 + (NSColor*)colorWithSRGBRed:(CGFloat)red

@@ -13,6 +13,8 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSTextField : NSControl
 // A multi-line label whose text can be selected, in the system font.
 + (instancetype)wrappingLabelWithString:(NSString*)stringValue;
+// A single-line label that cannot be selected, in the system font.
++ (instancetype)labelWithString:(NSString*)stringValue;
 @property(getter=isSelectable) BOOL selectable;
 @property(nullable, copy) NSColor* textColor;
 @property CGFloat preferredMaxLayoutWidth;

@@ -27,6 +27,8 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 @property NSRect frame;
 @property NSRect bounds;
 - (void)addSubview:(NSView*)view;
+- (void)removeFromSuperview;
+@property(getter=isHidden) BOOL hidden;
 @property NSAutoresizingMaskOptions autoresizingMask;
 @property BOOL wantsLayer;
 @property(nullable, strong) CALayer* layer;

@@ -11,6 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly) NSUInteger count;
 // Array literals are built with this.
 + (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)cnt;
+// Subscripting (array[index]) reads through this.
+- (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 @end
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>

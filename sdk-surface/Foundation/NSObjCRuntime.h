@@ -16,6 +16,8 @@
 #define NS_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
 #define NS_RETURNS_INNER_POINTER __attribute__((objc_returns_inner_pointer))
 #define NS_VALID_UNTIL_END_OF_SCOPE __attribute__((objc_precise_lifetime))
+#define NS_DESIGNATED_INITIALIZER __attribute__((objc_designated_initializer))
+#define NS_UNAVAILABLE __attribute__((unavailable))
 
 // Written here as plain C++ enumerations: a fixed underlying type, enumerators in scope. Option
 // sets are the underlying integer type, so that combined flags need no cast.

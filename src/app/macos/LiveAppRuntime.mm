@@ -15,6 +15,7 @@
 #include "ui/animation/macos/SystemShortcutAnimationMotionProvider.hpp"
 #include "ui/animation/macos/SystemShortcutAnimationPanelFactory.hpp"
 #include "ui/animation/macos/SystemShortcutAnimationScreenProvider.hpp"
+#include "ui/settings/macos/SystemSettingsWindowFactory.hpp"
 
 #include <memory>
 #include <utility>
@@ -35,8 +36,8 @@ PlatformServices makeLivePlatformServices() {
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),
                .calendar = std::make_shared<SystemUsageCalendar>()},
       .hud = makeLiveHUDPlatform(),
-      // The windows come with their own change; until then Settings and the editor open nothing.
-      .ui = {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
+      // The editor comes with its own change; until then it opens nothing.
+      .ui = {.settingsWindows = std::make_shared<SystemSettingsWindowFactory>(),
              .mappingEditorWindows = std::make_shared<InertMappingEditorWindowFactory>(),
              .launchAtLogin = std::make_shared<InertLaunchAtLoginService>(),
              .shortcutAnimationPanels = std::make_shared<SystemShortcutAnimationPanelFactory>(),
