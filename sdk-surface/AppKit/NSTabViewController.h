@@ -18,6 +18,8 @@ typedef NS_ENUM(NSInteger, NSTabViewControllerTabStyle) {
 // macOS 10.10.
 @interface NSTabViewController : NSViewController
 @property NSTabViewControllerTabStyle tabStyle;
+// When YES (the default) the controller's title follows the selected child's.
+@property BOOL canPropagateSelectedChildViewControllerTitle;
 - (void)addTabViewItem:(NSTabViewItem*)tabViewItem;
 @end
 

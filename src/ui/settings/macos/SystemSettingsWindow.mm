@@ -82,6 +82,8 @@ void SystemSettingsWindow::show() {
     const GeneralSettingsContent& content = pages_.general.content();
     NSTabViewController* tabs = [[NSTabViewController alloc] init];
     tabs.tabStyle = NSTabViewControllerTabStyleToolbar;
+    // The window keeps its own title whichever page is selected.
+    tabs.canPropagateSelectedChildViewControllerTitle = NO;
     [tabs addTabViewItem:tabItem([[QNBGeneralSettingsPageController alloc]
                                      initWithViewModel:pages_.general],
                                  content.generalTabTitle, @"gearshape")];
