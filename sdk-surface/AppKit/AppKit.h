@@ -12,6 +12,7 @@
 #import <AppKit/NSBezierPath.h>
 #import <AppKit/NSBitmapImageRep.h>
 #import <AppKit/NSButton.h>
+#import <AppKit/NSCell.h>
 #import <AppKit/NSColor.h>
 #import <AppKit/NSColorSpace.h>
 #import <AppKit/NSControl.h>
@@ -20,6 +21,7 @@
 #import <AppKit/NSFontDescriptor.h>
 #import <AppKit/NSGraphics.h>
 #import <AppKit/NSGraphicsContext.h>
+#import <AppKit/NSGridView.h>
 #import <AppKit/NSImage.h>
 #import <AppKit/NSImageRep.h>
 #import <AppKit/NSImageView.h>
@@ -30,6 +32,7 @@
 #import <AppKit/NSOpenPanel.h>
 #import <AppKit/NSPanel.h>
 #import <AppKit/NSParagraphStyle.h>
+#import <AppKit/NSPopUpButton.h>
 #import <AppKit/NSResponder.h>
 #import <AppKit/NSRunningApplication.h>
 #import <AppKit/NSSavePanel.h>
@@ -45,6 +48,8 @@
 #import <AppKit/NSStringDrawing.h>
 #import <AppKit/NSTableColumn.h>
 #import <AppKit/NSTableView.h>
+#import <AppKit/NSTabViewController.h>
+#import <AppKit/NSTabViewItem.h>
 #import <AppKit/NSText.h>
 #import <AppKit/NSTextField.h>
 #import <AppKit/NSUserInterfaceItemIdentification.h>

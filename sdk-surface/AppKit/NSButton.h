@@ -3,6 +3,7 @@
 #pragma once
 
 #import <AppKit/AppKitDefines.h>
+#import <AppKit/NSCell.h>
 #import <AppKit/NSControl.h>
 #import <AppKit/NSImage.h>
 
@@ -18,10 +19,11 @@ NS_ASSUME_NONNULL_BEGIN
 + (instancetype)buttonWithImage:(NSImage*)image
                          target:(nullable id)target
                          action:(nullable SEL)action;
-// A push button (macOS 10.12).
-+ (instancetype)buttonWithTitle:(NSString*)title
-                         target:(nullable id)target
-                         action:(nullable SEL)action;
++ (instancetype)checkboxWithTitle:(NSString*)title
+                           target:(nullable id)target
+                           action:(nullable SEL)action;
+@property(copy) NSString* title;
+@property NSControlStateValue state;
 @property(getter=isBordered) BOOL bordered;
 @property(nullable, strong) NSImage* image;
 @property(copy) NSString* keyEquivalent;

@@ -13,8 +13,9 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nullable, copy) NSFont* font;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
-@property(copy) NSString* stringValue;
 @property(getter=isEnabled) BOOL enabled;
+@property NSInteger tag;
+@property(copy) NSString* stringValue;
 @end
 
 NS_ASSUME_NONNULL_END

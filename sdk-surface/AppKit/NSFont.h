@@ -11,7 +11,11 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSFont : NSObject <NSCopying>
 + (NSFont*)preferredFontForTextStyle:(NSFontTextStyle)style
                              options:(NSDictionary<NSFontTextStyleOptionKey, id>*)options;
++ (NSFont*)systemFontOfSize:(CGFloat)fontSize;
++ (NSFont*)boldSystemFontOfSize:(CGFloat)fontSize;
 + (NSFont*)systemFontOfSize:(CGFloat)fontSize weight:(NSFontWeight)weight;
+@property(class, readonly) CGFloat systemFontSize;
+@property(class, readonly) CGFloat smallSystemFontSize;
 + (NSFont*)monospacedSystemFontOfSize:(CGFloat)fontSize weight:(NSFontWeight)weight;
 @property(readonly) CGFloat pointSize;
 @end

@@ -16,6 +16,12 @@ NS_ASSUME_NONNULL_BEGIN
 @property NSUserInterfaceLayoutOrientation orientation;
 @property NSLayoutAttribute alignment;
 @property NSEdgeInsets edgeInsets;
+@property CGFloat spacing;
+@property(readonly, copy) NSArray<__kindof NSView*>* arrangedSubviews;
+- (void)addArrangedSubview:(NSView*)view;
+// Leaves the view a subview: remove it from its superview as well to take it away.
+- (void)removeArrangedSubview:(NSView*)view;
+- (void)setCustomSpacing:(CGFloat)spacing afterView:(NSView*)view;
 @end
 
 NS_ASSUME_NONNULL_END

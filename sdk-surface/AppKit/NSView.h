@@ -32,6 +32,7 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 @property NSRect frame;
 @property NSRect bounds;
 - (void)addSubview:(NSView*)view;
+- (void)removeFromSuperview;
 @property NSAutoresizingMaskOptions autoresizingMask;
 @property BOOL wantsLayer;
 @property(nullable, strong) CALayer* layer;

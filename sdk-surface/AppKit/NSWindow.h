@@ -10,7 +10,12 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSColor, NSEvent, NSString, NSView;
+@class NSColor, NSEvent, NSNotification, NSString, NSView, NSViewController;
+
+@protocol NSWindowDelegate <NSObject>
+@optional
+- (void)windowWillClose:(NSNotification*)notification;
+@end
 
 typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskBorderless = 0,
@@ -43,6 +48,11 @@ typedef NS_ENUM(NSInteger, NSWindowAnimationBehavior) {
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property NSWindowLevel level;
 @property(nullable, strong) __kindof NSView* contentView;
+// macOS 10.10.
+@property(nullable, strong) NSViewController* contentViewController;
+@property(nullable, weak) id<NSWindowDelegate> delegate;
+// Restores the frame saved under the name, if any, and saves every later change under it.
+- (BOOL)setFrameAutosaveName:(NSString*)name;
 @property BOOL hidesOnDeactivate;
 @property NSWindowCollectionBehavior collectionBehavior;
 - (void)setContentSize:(NSSize)size;

@@ -11,7 +11,8 @@ AppRuntime::AppRuntime(PlatformServices platform, AppRuntimeConfiguration config
                  data_.usage(), data_.preferences(),
                  {.dockStartsCatalogMonitor = !configuration.isHUDPerformanceMeasurement}),
       hud_(platform_.base, platform_.hud, platform_.data, data_, shortcuts_),
-      ui_(platform_.base, platform_.ui, data_, shortcuts_, hud_),
+      ui_(platform_.base, platform_.ui, shell_, *platform_.app.hudEnableExplainer, data_,
+          shortcuts_, hud_),
       menuBar_(platform_.base, platform_.app, shell_, data_, shortcuts_, hud_,
                [this] { ui_.showSettings(); }),
       lifecycle_(makeLifecycle()) {

@@ -65,7 +65,8 @@ ShortcutsAssembly::ShortcutsAssembly(const BasePlatform& base, const ShortcutsPl
                              .frontmostApplications = *frontmostApplication_,
                              .appHider = appHider_,
                              .animation = shortcutAnimation_,
-                             .localizer = *base.localizer}),
+                             .localizer = *base.localizer,
+                             .testMonitor = &testMonitor_}),
       optionDigits_(optionDigitRegistrar_, preferences, *platform.symbolicHotKeys),
       runningApplications_(*platform.runningApplications, *base.scheduler) {}
 

@@ -18,6 +18,7 @@
 #include "shortcuts/running/WorkspaceRunningApplicationMonitor.hpp"
 #include "shortcuts/switching/AppSwitchCommandQueue.hpp"
 #include "shortcuts/switching/AppSwitchFailureHandler.hpp"
+#include "shortcuts/switching/ShortcutTestMonitor.hpp"
 #include "shortcuts/switching/WorkspaceAppHider.hpp"
 #include "shortcuts/switching/WorkspaceAppSwitchingAdapter.hpp"
 #include "ui/UIPlatform.hpp"
@@ -100,6 +101,8 @@ public:
   [[nodiscard]] const FrontmostApplicationProviding& frontmostApplication() const {
     return *frontmostApplication_;
   }
+  /// Consulted by the digit and letter shortcuts: while armed, a press is described, not acted on.
+  [[nodiscard]] ShortcutTestMonitor& testMonitor() { return testMonitor_; }
 
 private:
   BundleApplicationMetadataReader metadataReader_;
@@ -116,6 +119,7 @@ private:
   // Before the animation, which shows its icons.
   ApplicationIconCache iconCache_;
   ShortcutAnimationController shortcutAnimation_;
+  ShortcutTestMonitor testMonitor_;
   OptionDigitHotKeyRegistrar optionDigitRegistrar_;
   OptionDigitHotKeyFeatureController optionDigits_;
   WorkspaceRunningApplicationMonitor runningApplications_;

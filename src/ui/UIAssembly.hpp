@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/AppShellAssembly.hpp"
+#include "app/menu/HUDEnableExplaining.hpp"
 #include "base/BasePlatform.hpp"
 #include "data/DataAssembly.hpp"
 #include "hud/HUDAssembly.hpp"
@@ -19,8 +21,10 @@ namespace quenby {
 /// and the windows built over them. Built after the features they show, which must outlive it.
 class UIAssembly {
 public:
-  UIAssembly(const BasePlatform& base, const UIPlatform& platform, DataAssembly& data,
-             ShortcutsAssembly& shortcuts, HUDAssembly& hud);
+  /// `enableExplainer` asks before the HUD is turned on from Settings, as the menu does.
+  UIAssembly(const BasePlatform& base, const UIPlatform& platform, AppShellAssembly& shell,
+             HUDEnableExplaining& enableExplainer, DataAssembly& data, ShortcutsAssembly& shortcuts,
+             HUDAssembly& hud);
   UIAssembly(const UIAssembly&) = delete;
   UIAssembly& operator=(const UIAssembly&) = delete;
 

@@ -48,11 +48,14 @@ bool inMacOSFolder(const fs::path& path) {
 // The bundle's Info.plist as CMake writes it, with every version placeholder filled in.
 PropertyListValue infoPlist(int* substituted = nullptr) {
   std::string text = contents(kSourceDir / "resources/Info.plist.in");
-  const std::string placeholder = "@PROJECT_VERSION@";
   int count = 0;
-  for (auto at = text.find(placeholder); at != std::string::npos; at = text.find(placeholder)) {
-    text.replace(at, placeholder.size(), "1.2.3");
-    ++count;
+  for (const auto& [placeholder, value] :
+       {std::pair<std::string, std::string>{"@PROJECT_VERSION@", "1.2.3"},
+        {"@QUENBY_BUNDLE_VERSION@", "45"}}) {
+    for (auto at = text.find(placeholder); at != std::string::npos; at = text.find(placeholder)) {
+      text.replace(at, placeholder.size(), value);
+      ++count;
+    }
   }
   if (substituted != nullptr) {
     *substituted = count;
@@ -78,7 +81,8 @@ TEST(MacOSLayerTest, InfoPlistTemplateDescribesAnAccessoryBundle) {
   EXPECT_EQ(stringAt(plist, "CFBundlePackageType"), "APPL");
   EXPECT_EQ(stringAt(plist, "LSMinimumSystemVersion"), "13.0");
   EXPECT_EQ(stringAt(plist, "CFBundleShortVersionString"), "1.2.3");
-  EXPECT_EQ(stringAt(plist, "CFBundleVersion"), "1.2.3");
+  EXPECT_EQ(stringAt(plist, "CFBundleVersion"), "45");
+  EXPECT_EQ(stringAt(plist, "CFBundleIconFile"), "AppIcon");
   // A Boolean, not the string "YES": Launch Services ignores the wrong kind.
   const PropertyListValue* agent = plist.find("LSUIElement");
   ASSERT_NE(agent, nullptr);

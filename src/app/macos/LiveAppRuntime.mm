@@ -23,6 +23,7 @@
 #include "ui/installer/macos/SystemApplicationSignatureVerifier.hpp"
 #include "ui/installer/macos/WorkspaceApplicationRelauncher.hpp"
 #include "ui/login/macos/SystemLaunchAtLoginService.hpp"
+#include "ui/settings/macos/SystemSettingsWindowFactory.hpp"
 
 #import <Foundation/Foundation.h>
 #include <memory>
@@ -44,8 +45,7 @@ PlatformServices makeLivePlatformServices() {
                    std::make_shared<SystemWindowPlacementSnapshotProvider>(),
                .calendar = std::make_shared<SystemUsageCalendar>()},
       .hud = makeLiveHUDPlatform(),
-      // The Settings window comes with its own change; until then it opens nothing.
-      .ui = {.settingsWindows = std::make_shared<InertSettingsWindowFactory>(),
+      .ui = {.settingsWindows = std::make_shared<SystemSettingsWindowFactory>(),
              .mappingEditorWindows = std::make_shared<SystemMappingEditorWindowFactory>(),
              .mappingEditorFilePanels = std::make_shared<SystemMappingEditorFilePanels>(),
              .applicationFolders = InstalledApplicationCatalog::standardFolders(

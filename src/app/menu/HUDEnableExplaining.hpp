@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/menu/MenuBarTexts.hpp"
+#include "base/Localizer.hpp"
+
 #include <string>
 
 namespace quenby {
@@ -11,6 +14,14 @@ struct HUDEnableExplanation {
   std::string continueTitle;
   std::string cancelTitle;
 };
+
+/// The explanation in the user's language: the menu and Settings turn the HUD on alike.
+[[nodiscard]] inline HUDEnableExplanation hudEnableExplanation(const Localizer& localizer) {
+  return {.message = localizer.localized(kEnableHUDAlertMessageText),
+          .informativeText = localizer.localized(kEnableHUDAlertInformativeText),
+          .continueTitle = localizer.localized(kEnableHUDAlertContinueText),
+          .cancelTitle = localizer.localized(kEnableHUDAlertCancelText)};
+}
 
 /// Asks the user, modally, whether to turn the HUD on after explaining what it needs.
 class HUDEnableExplaining {

@@ -80,13 +80,7 @@ void MenuBarController::toggleHUD() {
     c_.feature.disable();
     return;
   }
-  const Localizer& localizer = c_.localizer;
-  const HUDEnableExplanation explanation{
-      .message = localizer.localized(kEnableHUDAlertMessageText),
-      .informativeText = localizer.localized(kEnableHUDAlertInformativeText),
-      .continueTitle = localizer.localized(kEnableHUDAlertContinueText),
-      .cancelTitle = localizer.localized(kEnableHUDAlertCancelText)};
-  if (c_.enableExplainer.confirmEnable(explanation)) {
+  if (c_.enableExplainer.confirmEnable(hudEnableExplanation(c_.localizer))) {
     c_.feature.enable();
   }
 }

@@ -6,9 +6,10 @@ namespace quenby {
 
 HUDKeyDownRouter::HUDKeyDownRouter(Collaborators collaborators)
     : frontmostApplication_(collaborators.frontmostApplication),
-      translator_(collaborators.characterTranslator),
+      testMonitor_(collaborators.testMonitor), translator_(collaborators.characterTranslator),
       routing_(HUDRoutingSnapshot::from(collaborators.mappings.snapshot())),
-      hidesFrontmostApplication_(collaborators.preferences.shortcutHidesFrontmostApplication()) {
+      hidesFrontmostApplication_(collaborators.preferences.shortcutHidesFrontmostApplication()),
+      modifier_(collaborators.preferences.activationModifier()) {
   mappingObservation_ =
       collaborators.mappings.observe([this](const KeyboardMappingSnapshot& snapshot) {
         routing_ = HUDRoutingSnapshot::from(snapshot);
@@ -17,6 +18,9 @@ HUDKeyDownRouter::HUDKeyDownRouter(Collaborators collaborators)
     if (const auto hides =
             change.valueIf<bool>(AppPreferenceProperty::shortcutHidesFrontmostApplication)) {
       hidesFrontmostApplication_ = *hides;
+    } else if (const auto modifier = change.valueIf<ActivationModifierPreference>(
+                   AppPreferenceProperty::activationModifier)) {
+      modifier_ = *modifier;
     }
   });
 }
@@ -42,6 +46,9 @@ HUDKeyboardEventDecision HUDKeyDownRouter::routeHidden(std::uint16_t keyCode) co
   // Only a letter that can switch is taken; an unresolved one types as usual (looked up before
   // deciding, so that passing it on copies nothing).
   const HUDLetterRoutingEntry* entry = routing_.letter(key.letter());
+  if (testMonitor_ != nullptr && testMonitor_->isArmed()) {
+    return describeForTest(key.letter(), entry);
+  }
   const AppMapping* mapping = entry != nullptr ? entry->mapping() : nullptr;
   if (mapping == nullptr) {
     return {};
@@ -53,6 +60,34 @@ HUDKeyboardEventDecision HUDKeyDownRouter::routeHidden(std::uint16_t keyCode) co
     }
   }
   return HUDKeyboardEventDecision::consume(HUDKeyboardAction::execute(*mapping, key));
+}
+
+HUDKeyboardEventDecision
+HUDKeyDownRouter::describeForTest(char letter, const HUDLetterRoutingEntry* entry) const {
+  using Outcome = ShortcutTestMonitor::Observation::Outcome;
+  ShortcutTestMonitor::Observation observation{.modifier = modifier_, .key = letter};
+  const AppMapping* mapping = entry != nullptr ? entry->mapping() : nullptr;
+  if (entry == nullptr) {
+    observation.outcome = Outcome::unassigned;
+  } else if (mapping == nullptr) {
+    observation.outcome = Outcome::cannotSwitch;
+    observation.failure = AppSwitchConfigurationFailure::unresolved(*entry->problem());
+  } else {
+    observation.applicationName = mapping->displayName;
+    const auto front = hidesFrontmostApplication_
+                           ? frontmostApplication_.frontmostBundleIdentifier()
+                           : std::nullopt;
+    observation.outcome = front && *front == mapping->bundleIdentifier
+                              ? Outcome::hideApplication
+                              : Outcome::switchToApplication;
+  }
+  // Only a key that would have acted is swallowed; the rest type as they would have.
+  observation.keyTypesAsUsual = mapping == nullptr;
+  testMonitor_->report(observation);
+  if (observation.keyTypesAsUsual) {
+    return {};
+  }
+  return HUDKeyboardEventDecision::consume(HUDKeyboardAction::none());
 }
 
 } // namespace quenby

@@ -7,6 +7,7 @@
 #include "hud/tap/KeyDownRouting.hpp"
 #include "shortcuts/mapping/KeyboardMappingSnapshotProviding.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
+#include "shortcuts/switching/ShortcutTestMonitor.hpp"
 
 namespace quenby {
 
@@ -27,6 +28,9 @@ public:
     /// Asked only for a key that is about to be swallowed.
     const FrontmostApplicationProviding& frontmostApplication;
     const KeyboardCharacterTranslating& characterTranslator;
+    /// While armed, a letter shortcut is described to it: one that would act is swallowed and
+    /// does nothing, one that would type still types.
+    ShortcutTestMonitor* testMonitor = nullptr;
   };
 
   static constexpr std::uint16_t kCommaKeyCode = 43;
@@ -41,11 +45,16 @@ public:
 
 private:
   [[nodiscard]] HUDKeyboardEventDecision routeHidden(std::uint16_t keyCode) const;
+  [[nodiscard]] HUDKeyboardEventDecision describeForTest(char letter,
+                                                         const HUDLetterRoutingEntry* entry) const;
 
   const FrontmostApplicationProviding& frontmostApplication_;
+  ShortcutTestMonitor* testMonitor_;
   KeyboardEventTranslator translator_;
   HUDRoutingSnapshot routing_;
   bool hidesFrontmostApplication_;
+  /// Followed only to name the key to a shortcut test.
+  ActivationModifierPreference modifier_;
   ObservationToken mappingObservation_;
   AppPreferenceObservation preferenceObservation_;
 };

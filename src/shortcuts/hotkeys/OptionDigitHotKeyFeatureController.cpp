@@ -38,32 +38,39 @@ void OptionDigitHotKeyFeatureController::stop() {
   }
   preferenceObservation_.reset();
   registrar_.unregisterAll();
+  const bool hadConflicts = !conflicts_.empty();
   conflicts_.clear();
-  setHealth(OptionDigitHotKeyHealth::notStarted());
+  setHealth(OptionDigitHotKeyHealth::notStarted(), hadConflicts);
 }
 
 void OptionDigitHotKeyFeatureController::registerForCurrentModifier() {
   const auto modifier = preferences_.activationModifier();
   // Diagnostic only: the system's shortcut wins silently, so registering is no different.
   const auto table = symbolicHotKeys_.copySymbolicHotKeys();
-  conflicts_ = table ? SymbolicHotKeyConflict::findAll(*table, modifier)
-                     : std::vector<SymbolicHotKeyConflict>{};
+  auto conflicts = table ? SymbolicHotKeyConflict::findAll(*table, modifier)
+                         : std::vector<SymbolicHotKeyConflict>{};
+  const bool conflictsChanged = conflicts != conflicts_;
+  conflicts_ = std::move(conflicts);
 
   if (auto error = registrar_.start(modifier)) {
     registrar_.unregisterAll();
-    setHealth(OptionDigitHotKeyHealth::registrationFailed(std::move(*error)));
+    setHealth(OptionDigitHotKeyHealth::registrationFailed(std::move(*error)), conflictsChanged);
     return;
   }
-  setHealth(OptionDigitHotKeyHealth::ready());
+  setHealth(OptionDigitHotKeyHealth::ready(), conflictsChanged);
 }
 
-void OptionDigitHotKeyFeatureController::setHealth(OptionDigitHotKeyHealth health) {
-  if (health == health_) {
-    return;
+void OptionDigitHotKeyFeatureController::setHealth(OptionDigitHotKeyHealth health,
+                                                   bool conflictsChanged) {
+  const bool healthChanged = health != health_;
+  if (healthChanged) {
+    health_ = std::move(health);
+    if (onHealthChanged_) {
+      onHealthChanged_(health_);
+    }
   }
-  health_ = std::move(health);
-  if (onHealthChanged_) {
-    onHealthChanged_(health_);
+  if (healthChanged || conflictsChanged) {
+    observers_.notify();
   }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ObservationToken.hpp"
+#include "base/ObserverList.hpp"
 #include "data/AppPreferencesProviding.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyHealth.hpp"
 #include "shortcuts/hotkeys/OptionDigitHotKeyRegistrar.hpp"
@@ -39,6 +41,11 @@ public:
   [[nodiscard]] const OptionDigitHotKeyHealth& health() const { return health_; }
   /// Receives every change of health, after it took effect.
   void setOnHealthChanged(HealthHandler handler) { onHealthChanged_ = std::move(handler); }
+  /// `handler` runs after each change of the health or of the system shortcut conflicts, until
+  /// the token ends.
+  [[nodiscard]] ObservationToken observe(std::function<void()> handler) {
+    return observers_.add(std::move(handler));
+  }
   /// The digits taken by a system shortcut with the modifier last registered; empty when
   /// stopped.
   [[nodiscard]] const std::vector<SymbolicHotKeyConflict>& systemShortcutConflicts() const {
@@ -47,13 +54,15 @@ public:
 
 private:
   void registerForCurrentModifier();
-  void setHealth(OptionDigitHotKeyHealth health);
+  /// Publishes `health`; `conflictsChanged` publishes even an unchanged health.
+  void setHealth(OptionDigitHotKeyHealth health, bool conflictsChanged = false);
 
   OptionDigitHotKeyRegistrar& registrar_;
   AppPreferencesProviding& preferences_;
   SystemSymbolicHotKeyReading& symbolicHotKeys_;
   OptionDigitHotKeyHealth health_ = OptionDigitHotKeyHealth::notStarted();
   HealthHandler onHealthChanged_;
+  ObserverList<> observers_;
   std::vector<SymbolicHotKeyConflict> conflicts_;
   std::optional<AppPreferenceObservation> preferenceObservation_;
 };

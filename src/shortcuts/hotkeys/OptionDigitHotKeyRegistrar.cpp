@@ -59,6 +59,10 @@ void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
     return;
   }
   const NumberMappingEntry& entry = collaborators_.mappings().numberEntries.at(digit);
+  if (collaborators_.testMonitor != nullptr && collaborators_.testMonitor->isArmed()) {
+    describeForTest(digit, entry);
+    return;
+  }
   const AppMapping* mapping = entry.mapping();
   if (mapping == nullptr) {
     reportUnavailable(digit, *entry.problem());
@@ -84,6 +88,33 @@ void OptionDigitHotKeyRegistrar::handleHotKey(int digit) {
 void OptionDigitHotKeyRegistrar::reportUnavailable(int digit, const NumberMappingProblem& problem) {
   collaborators_.configurationReporter.report(
       unavailableDockPositionFailure(digit, problem, collaborators_.localizer));
+}
+
+void OptionDigitHotKeyRegistrar::describeForTest(int digit, const NumberMappingEntry& entry) {
+  using Outcome = ShortcutTestMonitor::Observation::Outcome;
+  ShortcutTestMonitor::Observation observation{.modifier = activeModifier_,
+                                               .key = static_cast<char>('0' + digit)};
+  if (const AppMapping* mapping = entry.mapping()) {
+    observation.applicationName = mapping->displayName;
+    auto action = AppShortcutAction::decide(*mapping, hidesFrontmostApplication_,
+                                            collaborators_.frontmostApplications);
+    switch (action.kind) {
+    case AppShortcutAction::Kind::reportFailure:
+      observation.outcome = Outcome::cannotSwitch;
+      observation.failure = std::move(action.failure);
+      break;
+    case AppShortcutAction::Kind::hide:
+      observation.outcome = Outcome::hideApplication;
+      break;
+    case AppShortcutAction::Kind::switchToApplication:
+      observation.outcome = Outcome::switchToApplication;
+      break;
+    }
+  } else {
+    observation.outcome = Outcome::dockPositionUnavailable;
+    observation.dockProblem = *entry.problem();
+  }
+  collaborators_.testMonitor->report(observation);
 }
 
 } // namespace quenby

@@ -12,6 +12,7 @@
 #include "shortcuts/switching/AppSwitchCommandSubmitting.hpp"
 #include "shortcuts/switching/AppSwitchFailureHandling.hpp"
 #include "shortcuts/switching/FrontmostApplicationProviding.hpp"
+#include "shortcuts/switching/ShortcutTestMonitor.hpp"
 #include "ui/animation/ShortcutAnimationPresenting.hpp"
 
 #include <array>
@@ -44,6 +45,8 @@ public:
     /// Plays just before an accepted press is submitted.
     ShortcutAnimationPresenting& animation;
     const Localizer& localizer;
+    /// While armed, a press is described to it and does nothing else.
+    ShortcutTestMonitor* testMonitor = nullptr;
   };
 
   explicit OptionDigitHotKeyRegistrar(Collaborators collaborators);
@@ -66,6 +69,7 @@ public:
 
 private:
   void reportUnavailable(int digit, const NumberMappingProblem& problem);
+  void describeForTest(int digit, const NumberMappingEntry& entry);
 
   Collaborators collaborators_;
   ActivationModifierPreference activeModifier_ = ActivationModifierPreference::option;

@@ -70,10 +70,12 @@ struct Fixture {
   Mappings mappings;
   CountingFrontmost frontmost;
   InertKeyboardCharacterTranslator characters;
+  ShortcutTestMonitor testMonitor;
   HUDKeyDownRouter router{{.mappings = mappings,
                            .preferences = preferences,
                            .frontmostApplication = frontmost,
-                           .characterTranslator = characters}};
+                           .characterTranslator = characters,
+                           .testMonitor = &testMonitor}};
 };
 
 const HUDKeyboardEventDecision kDefault{};
@@ -106,6 +108,50 @@ TEST(HUDKeyDownRouterTest, HiddenTheHidePreferenceHidesTheApplicationInFront) {
   const int asked = f.frontmost.asked;
   EXPECT_EQ(f.hidden(kB, kOption), kDefault);
   EXPECT_EQ(f.frontmost.asked, asked);
+}
+
+TEST(HUDKeyDownRouterTest, HiddenUnderTestALetterIsDescribedAndOnlyAnActingOneSwallowed) {
+  using Outcome = ShortcutTestMonitor::Observation::Outcome;
+  Fixture f;
+  std::vector<ShortcutTestMonitor::Observation> seen;
+  const auto arm = [&] {
+    return f.testMonitor.arm([&](const auto& observation) { seen.push_back(observation); });
+  };
+  f.preferences.setActivationModifier(ActivationModifierPreference::control);
+  const auto swallowed = HUDKeyboardEventDecision::consume(HUDKeyboardAction::none());
+
+  auto arming = arm();
+  EXPECT_EQ(f.hidden(kA, kOption), swallowed) << "an assigned letter must not switch";
+  EXPECT_EQ(f.hidden(kA, kOption).action.is<HUDKeyboardAction::Execute>(), true)
+      << "one press per test";
+  arming = arm();
+  EXPECT_EQ(f.hidden(kB, kOption), kDefault);
+  arming = arm();
+  EXPECT_EQ(f.hidden(kC, kOption), kDefault);
+  f.preferences.setShortcutHidesFrontmostApplication(true);
+  f.frontmost.front = "Notes";
+  arming = arm();
+  EXPECT_EQ(f.hidden(kA, kOption), swallowed);
+
+  ASSERT_EQ(seen.size(), 4U);
+  EXPECT_EQ(seen[0],
+            (ShortcutTestMonitor::Observation{.modifier = ActivationModifierPreference::control,
+                                              .key = 'A',
+                                              .outcome = Outcome::switchToApplication,
+                                              .applicationName = "Notes"}));
+  EXPECT_EQ(seen[1].outcome, Outcome::unassigned);
+  EXPECT_TRUE(seen[1].keyTypesAsUsual);
+  EXPECT_EQ(seen[2].outcome, Outcome::cannotSwitch);
+  EXPECT_TRUE(seen[2].keyTypesAsUsual);
+  EXPECT_EQ(seen[2].failure->kind(), AppSwitchConfigurationFailure::Kind::unresolved);
+  EXPECT_EQ(seen[3].outcome, Outcome::hideApplication);
+
+  // The HUD's own keys are not shortcuts, and a dropped arming hears nothing.
+  arming = arm();
+  EXPECT_EQ(f.visible(kEscape).action, HUDKeyboardAction::dismiss());
+  arming.cancel();
+  EXPECT_FALSE(f.testMonitor.isArmed());
+  EXPECT_EQ(seen.size(), 4U);
 }
 
 TEST(HUDKeyDownRouterTest, VisibleTheHUDOwnsItsKeysWhateverTheModifiers) {

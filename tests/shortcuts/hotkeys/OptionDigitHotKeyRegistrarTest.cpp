@@ -53,7 +53,8 @@ struct Fixture {
         .frontmostApplications = frontmost,
         .appHider = hider,
         .animation = animation,
-        .localizer = localizer});
+        .localizer = localizer,
+        .testMonitor = &testMonitor});
   }
 
   RecordingHotKeyBackend backend;
@@ -68,6 +69,7 @@ struct Fixture {
   InertAppHider hider;
   NoOpShortcutAnimationPresenter animation;
   EnglishLocalizer localizer;
+  ShortcutTestMonitor testMonitor;
 };
 
 Log registrations(const char* flags, int through) {
@@ -239,6 +241,35 @@ TEST(OptionDigitHotKeyRegistrarTest, TheFrontmostApplicationIsHiddenOnlyWithTheP
   registrar->handleHotKey(10);
   EXPECT_EQ(f.submitter.submitted.size(), 3U);
   EXPECT_TRUE(f.presenter.presented.empty());
+}
+
+TEST(OptionDigitHotKeyRegistrarTest, UnderTestAPressIsDescribedAndDoesNothingElse) {
+  using Outcome = ShortcutTestMonitor::Observation::Outcome;
+  Fixture f;
+  auto registrar = f.makeRegistrar();
+  ASSERT_EQ(registrar->start(ActivationModifierPreference::control), std::nullopt);
+  f.frontmost.setFrontmostBundleIdentifier("com.example.Mail");
+  f.preferences.setShortcutHidesFrontmostApplication(true);
+  std::vector<ShortcutTestMonitor::Observation> seen;
+  for (int digit : {1, 7}) {
+    auto arming = f.testMonitor.arm([&](const auto& observation) { seen.push_back(observation); });
+    registrar->handleHotKey(digit);
+  }
+  ASSERT_EQ(seen.size(), 2U);
+  EXPECT_EQ(seen[0],
+            (ShortcutTestMonitor::Observation{.modifier = ActivationModifierPreference::control,
+                                              .key = '1',
+                                              .outcome = Outcome::hideApplication,
+                                              .applicationName = "Mail"}));
+  EXPECT_EQ(seen[1].outcome, Outcome::dockPositionUnavailable);
+  EXPECT_EQ(seen[1].dockProblem, NumberMappingProblem::emptyDockPosition());
+  // Nothing hidden, switched or explained: the failure stays unreported for a real press.
+  EXPECT_TRUE(f.hider.hiddenMappings().empty());
+  EXPECT_TRUE(f.submitter.submitted.empty());
+  EXPECT_TRUE(f.presenter.presented.empty());
+
+  registrar->handleHotKey(7);
+  EXPECT_EQ(f.presenter.presented.size(), 1U);
 }
 
 } // namespace
