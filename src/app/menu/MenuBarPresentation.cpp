@@ -15,32 +15,6 @@ const LocalizedText& permissionName(EventTapPermissionKind kind) {
                                                        : kMenuInputMonitoringPermissionText;
 }
 
-const LocalizedText& hudStatusText(HUDKind kind) {
-  switch (kind) {
-  case HUDKind::needsPermission:
-    return kMenuHUDPermissionRequiredText;
-  case HUDKind::tapFailure:
-    return kMenuHUDEventTapFailedText;
-  case HUDKind::disabled:
-    return kMenuHUDDisabledText;
-  case HUDKind::ready:
-    break;
-  }
-  return kMenuHUDReadyText;
-}
-
-const LocalizedText& digitStatusText(DigitKind kind) {
-  switch (kind) {
-  case DigitKind::registrationFailed:
-    return kMenuDigitRegistrationFailedText;
-  case DigitKind::ready:
-    return kMenuDigitReadyText;
-  case DigitKind::notStarted:
-    break;
-  }
-  return kMenuDigitNotStartedText;
-}
-
 class ItemsBuilder {
 public:
   ItemsBuilder(const MenuBarPresentationInputs& inputs, const Localizer& localizer)

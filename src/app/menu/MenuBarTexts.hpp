@@ -1,6 +1,8 @@
 #pragma once
 
 #include "base/Localizer.hpp"
+#include "hud/feature/HUDHealth.hpp"
+#include "shortcuts/hotkeys/OptionDigitHotKeyHealth.hpp"
 
 #include <string_view>
 
@@ -108,5 +110,33 @@ inline constexpr LocalizedText kEnableHUDAlertContinueText{
 inline constexpr LocalizedText kEnableHUDAlertCancelText{
     "alert.enable-hud.cancel", "Cancel",
     "Button of the enable-HUD alert that leaves the keyboard HUD off."};
+
+/// The status line of the HUD, as the menu and the General settings page show it.
+inline const LocalizedText& hudStatusText(HUDHealth::Kind kind) {
+  switch (kind) {
+  case HUDHealth::Kind::needsPermission:
+    return kMenuHUDPermissionRequiredText;
+  case HUDHealth::Kind::tapFailure:
+    return kMenuHUDEventTapFailedText;
+  case HUDHealth::Kind::disabled:
+    return kMenuHUDDisabledText;
+  case HUDHealth::Kind::ready:
+    break;
+  }
+  return kMenuHUDReadyText;
+}
+
+/// The status line of the digit shortcuts, as the menu and the General settings page show it.
+inline const LocalizedText& digitStatusText(OptionDigitHotKeyHealth::Kind kind) {
+  switch (kind) {
+  case OptionDigitHotKeyHealth::Kind::registrationFailed:
+    return kMenuDigitRegistrationFailedText;
+  case OptionDigitHotKeyHealth::Kind::ready:
+    return kMenuDigitReadyText;
+  case OptionDigitHotKeyHealth::Kind::notStarted:
+    break;
+  }
+  return kMenuDigitNotStartedText;
+}
 
 } // namespace quenby

@@ -18,35 +18,8 @@ using ChoiceId = Content::ChoiceId;
 using ToggleId = Content::ToggleId;
 using Action = Content::Action;
 using HUDKind = HUDHealth::Kind;
-using DigitKind = OptionDigitHotKeyHealth::Kind;
 
 template <typename Enum> std::size_t indexOf(Enum value) { return static_cast<std::size_t>(value); }
-
-const LocalizedText& hudStatusText(HUDKind kind) {
-  switch (kind) {
-  case HUDKind::needsPermission:
-    return kMenuHUDPermissionRequiredText;
-  case HUDKind::tapFailure:
-    return kMenuHUDEventTapFailedText;
-  case HUDKind::disabled:
-    return kMenuHUDDisabledText;
-  case HUDKind::ready:
-    break;
-  }
-  return kMenuHUDReadyText;
-}
-
-const LocalizedText& digitStatusText(DigitKind kind) {
-  switch (kind) {
-  case DigitKind::registrationFailed:
-    return kMenuDigitRegistrationFailedText;
-  case DigitKind::ready:
-    return kMenuDigitReadyText;
-  case DigitKind::notStarted:
-    break;
-  }
-  return kMenuDigitNotStartedText;
-}
 
 class ContentBuilder {
 public:
