@@ -11,6 +11,7 @@
 NS_ASSUME_NONNULL_BEGIN
 
 typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) {
+  NSEventModifierFlagShift = 1 << 17,
   NSEventModifierFlagCommand = 1 << 20,
 };
 
