@@ -171,7 +171,7 @@ TEST_F(UsageCommandTest, UnreadablePreferencesFailWithTheFileAndTheKey) {
       {letters({}), 1, "quenbyctl letters: --defaults FILE is needed here"},
       {usage({"--defaults", missing}), 1, "quenbyctl usage: cannot read " + missing},
       {letters({"--defaults", garbage}), 1, garbage + " is not a property list"},
-      {usage({"--defaults", array}), 1, array + " holds a array, not a dictionary"},
+      {usage({"--defaults", array}), 1, array + " holds an array, not a dictionary"},
       {usage({"--defaults", corrupt}), 1,
        corrupt + ": \"usageAnalytics.v1\" is not a readable usage analytics document"},
       {letters({"--defaults", corrupt}), 1,

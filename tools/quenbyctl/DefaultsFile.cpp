@@ -13,6 +13,14 @@ namespace {
 constexpr std::uint64_t kMaximumDefaultsBytes = 64ULL * 1024 * 1024;
 constexpr std::string_view kBundleIdentifier = "com.brimfold.Quenby";
 
+/// "an array", "a string": the kind of value as a sentence names it.
+std::string kindWithArticle(PropertyListValue::Kind kind) {
+  const std::string name(PropertyListValue::kindName(kind));
+  const bool vowel =
+      !name.empty() && std::string_view("aeiou").find(name.front()) != std::string_view::npos;
+  return (vowel ? "an " : "a ") + name;
+}
+
 } // namespace
 
 std::string_view DefaultsFile::describe(PersistenceFormatError error) {
@@ -46,16 +54,27 @@ DefaultsFile::read(const std::optional<std::string>& requested,
     return "--defaults FILE is needed here: only a Mac has Quenby's own preferences to read";
   }
   const std::string& path = requested ? *requested : *standard;
-  const auto bytes = PosixFileSystem().readFile(path, kMaximumDefaultsBytes);
+  const PosixFileSystem fileSystem;
+  const auto bytes = fileSystem.readFile(path, kMaximumDefaultsBytes);
   if (!bytes) {
-    return "cannot read " + path;
+    const FileAttributes attributes = fileSystem.attributes(path);
+    if (!attributes.exists) {
+      return "cannot read " + path + ": no such file";
+    }
+    if (attributes.isDirectory) {
+      return "cannot read " + path + ": it is a folder, not a property list";
+    }
+    if (attributes.size.value_or(0) > kMaximumDefaultsBytes) {
+      return "cannot read " + path + ": larger than any preferences file (64 MB)";
+    }
+    return "cannot read " + path + ": permission denied or unreadable";
   }
   auto decoded = decoder.decode(*bytes);
   if (!decoded) {
     return path + " is not a property list: " + decoded.error().message;
   }
   if (decoded->dictionary() == nullptr) {
-    return path + " holds a " + std::string(PropertyListValue::kindName(decoded->kind())) +
+    return path + " holds " + kindWithArticle(decoded->kind()) +
            ", not a dictionary of preferences";
   }
   return DefaultsFile(path, std::move(decoded).value());
@@ -73,8 +92,7 @@ std::variant<StoredUsageState, std::string> DefaultsFile::usage() const {
   }
   const auto* bytes = stored->data();
   if (bytes == nullptr) {
-    return problem(key, "holds a " + std::string(PropertyListValue::kindName(stored->kind())) +
-                            ", not data");
+    return problem(key, "holds " + kindWithArticle(stored->kind()) + ", not data");
   }
   auto decoded = StoredUsageState::decode(
       std::string_view(reinterpret_cast<const char*>(bytes->data()), bytes->size()));
@@ -96,8 +114,7 @@ std::variant<std::vector<LetterMappingRecord>, std::string> DefaultsFile::letter
   }
   const auto* bytes = stored->data();
   if (bytes == nullptr) {
-    return problem(key, "holds a " + std::string(PropertyListValue::kindName(stored->kind())) +
-                            ", not data");
+    return problem(key, "holds " + kindWithArticle(stored->kind()) + ", not data");
   }
   auto document = LetterMappingDocument::read(*bytes);
   if (!document) {
