@@ -11,7 +11,9 @@ namespace {
 
 /// Far larger than any preferences domain of ours: 26 letters and 90 days of counts.
 constexpr std::uint64_t kMaximumDefaultsBytes = 64ULL * 1024 * 1024;
+#ifdef __APPLE__
 constexpr std::string_view kBundleIdentifier = "com.brimfold.Quenby";
+#endif
 
 /// "an array", "a string": the kind of value as a sentence names it.
 std::string kindWithArticle(PropertyListValue::Kind kind) {
